@@ -1,0 +1,72 @@
+#include "apps/play_options.h"
+
+#include <QCommandLineParser>
+
+namespace {
+
+constexpr int kWrongUsage = 2;
+constexpr int kMaxSide = 16'384;
+
+// "1000x640"; false when it isn't two whole numbers from 1 to kMaxSide.
+bool ParseSize(const QString& text, PlayOptions& options) {
+  const QStringList sides = text.split('x');
+  if (sides.size() != 2) return false;
+  bool widthOk = false;
+  bool heightOk = false;
+  const int width = sides[0].toInt(&widthOk);
+  const int height = sides[1].toInt(&heightOk);
+  if (!widthOk || !heightOk || width < 1 || height < 1 || width > kMaxSide || height > kMaxSide) {
+    return false;
+  }
+  options.width = static_cast<std::int16_t>(width);
+  options.height = static_cast<std::int16_t>(height);
+  return true;
+}
+
+ParsedOptions WrongUsage(const QString& why) {
+  return {std::nullopt, QString("turnbay-play: %1\nTry: turnbay-play --help\n").arg(why),
+          kWrongUsage};
+}
+
+}  // namespace
+
+ParsedOptions ParsePlayOptions(const QStringList& arguments) {
+  QCommandLineParser parser;
+  parser.setApplicationDescription(
+      "Plays a part program without a window, with default settings.\n"
+      "Exit status: 0 played, 1 the program can't be played, 2 wrong usage or a file that can't be "
+      "read or written.");
+  const QCommandLineOption help({"h", "help"}, "Show this help.");
+  const QCommandLineOption version("version", "Show the version.");
+  const QCommandLineOption size("size", "Simulation area in pixels.", "WxH", "1000x640");
+  const QCommandLineOption tools("tools", "Tool folder; default: the program's own.", "DIR");
+  const QCommandLineOption picture("picture", "Write the simulation area after the run.",
+                                   "FILE.png");
+  const QCommandLineOption profile(
+      "profile", "Write one line a column: z in mm, radius in mm, taper mark.", "FILE.csv");
+  const QCommandLineOption report("report", "Write a report; - is standard output.", "FILE.json");
+  const QCommandLineOption runToBreakpoint("run-to-breakpoint",
+                                           "Play without drawing until a break point.");
+  parser.addOptions({help, version, size, tools, picture, profile, report, runToBreakpoint});
+  parser.addPositionalArgument("PROGRAM", "The part program to play.");
+
+  if (!parser.parse(arguments)) return WrongUsage(parser.errorText());
+  if (parser.isSet(help)) return {std::nullopt, parser.helpText(), 0};
+  if (parser.isSet(version)) return {std::nullopt, "turnbay-play " TURNBAY_VERSION "\n", 0};
+  const QStringList programs = parser.positionalArguments();
+  if (programs.size() != 1) return WrongUsage("name one program to play.");
+
+  PlayOptions options;
+  if (!ParseSize(parser.value(size), options)) {
+    return WrongUsage(QString("the size \"%1\" isn't WIDTHxHEIGHT, each from 1 to %2.")
+                          .arg(parser.value(size))
+                          .arg(kMaxSide));
+  }
+  options.tools = parser.value(tools).toStdString();
+  options.picture = parser.value(picture).toStdString();
+  options.profile = parser.value(profile).toStdString();
+  options.report = parser.value(report).toStdString();
+  options.runToBreakpoint = parser.isSet(runToBreakpoint);
+  options.program = programs.first().toStdString();
+  return {options, {}, 0};
+}

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <cstdint>
+#include <optional>
+#include <string>
+
+// The command line of turnbay-play.
+struct PlayOptions {
+  // Simulation area in pixels.
+  std::int16_t width = 1000;
+  std::int16_t height = 640;
+  // Empty: not asked for; a tool folder of its own.
+  std::string tools;
+  std::string picture;
+  std::string profile;
+  // "-" is standard output.
+  std::string report;
+  bool runToBreakpoint = false;
+  std::string program;
+};
+
+struct ParsedOptions {
+  // Empty when there is nothing to play.
+  std::optional<PlayOptions> options;
+  // What to print then, and with which exit status.
+  QString message;
+  int exitStatus = 0;
+};
+
+ParsedOptions ParsePlayOptions(const QStringList& arguments);

@@ -1,0 +1,147 @@
+#include "apps/play_report.h"
+
+#include <QBuffer>
+#include <QCryptographicHash>
+#include <QImage>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <cstddef>
+#include <cstdint>
+
+#include "interpreter/machine.h"
+#include "mainwindow/control_surface.h"
+#include "motion/player.h"
+#include "motion/stock.h"
+#include "platform/code_page.h"
+#include "platform/numbers.h"
+#include "platform/windowless/windowless.h"
+
+namespace {
+
+struct NamedRegister {
+  const char* name;
+  const std::int16_t* value;
+};
+
+constexpr NamedRegister kRegisters[] = {
+    {"TargetX", &ModCNC::TargetX},
+    {"TargetZ", &ModCNC::TargetZ},
+    {"ActiveG", &ModCNC::ActiveG},
+    {"CurrentX", &ModCNC::CurrentX},
+    {"CurrentZ", &ModCNC::CurrentZ},
+    {"FeedRate", &ModCNC::FeedRate},
+    {"WordI", &ModCNC::WordI},
+    {"WordK", &ModCNC::WordK},
+    {"WordP", &ModCNC::WordP},
+    {"WordQ", &ModCNC::WordQ},
+    {"WordR", &ModCNC::WordR},
+    {"ToolNumber", &ModCNC::ToolNumber},
+    {"SpindleSpeed", &ModCNC::SpindleSpeed},
+    {"WordU", &ModCNC::WordU},
+    {"WordW", &ModCNC::WordW},
+    {"RadiusGiven", &ModCNC::RadiusGiven},
+    {"BilletX", &GlobalVariables::BilletX},
+    {"BilletZ", &GlobalVariables::BilletZ},
+};
+
+constexpr const char* kReportedPanels[] = {"FeedRate", "Dim", "SpindleSpeed", "SpindleDirection",
+                                           "Coolant"};
+
+QString ToQt(const std::string& utf8) {
+  return QString::fromStdString(utf8);
+}
+
+QJsonArray MessagesJson() {
+  QJsonArray array;
+  for (const Windowless::MessageRecord& message : Windowless::Messages()) {
+    array.append(QJsonObject{
+        {"text", ToQt(message.text)}, {"style", message.style}, {"title", ToQt(message.title)}});
+  }
+  return array;
+}
+
+QJsonObject RegistersJson() {
+  QJsonObject object;
+  for (const NamedRegister& entry : kRegisters) object[entry.name] = *entry.value;
+  return object;
+}
+
+QJsonObject PanelsJson() {
+  QJsonObject object;
+  for (const char* key : kReportedPanels) {
+    object[key] = ToQt(frmMain::StatusBar.Panels(key).Text);
+  }
+  return object;
+}
+
+QImage ToImage(const Raster& surface) {
+  QImage image(surface.Width(), surface.Height(), QImage::Format_RGB888);
+  for (int y = 0; y < surface.Height(); ++y) {
+    uchar* bytes = image.scanLine(y);
+    for (int x = 0; x < surface.Width(); ++x) {
+      const Colour colour = surface.Row(y)[x];
+      *bytes++ = RedOf(colour);
+      *bytes++ = GreenOf(colour);
+      *bytes++ = BlueOf(colour);
+    }
+  }
+  return image;
+}
+
+QString SurfaceHash(const Raster& surface) {
+  const QImage image = ToImage(surface);
+  QCryptographicHash hash(QCryptographicHash::Sha256);
+  for (int y = 0; y < image.height(); ++y) {
+    hash.addData(QByteArrayView(image.constScanLine(y), qsizetype{3} * image.width()));
+  }
+  return hash.result().toHex();
+}
+
+std::string Millimetres(int stockUnits) {
+  return NumberText(stockUnits / 10.0);
+}
+
+}  // namespace
+
+QByteArray ReportJson(const PlayOutcome& outcome) {
+  QJsonArray profile;
+  QJsonArray taper;
+  for (const Graphics::ProfileColumn& column : Graphics::StockProfile) {
+    profile.append(column.Radius);
+    taper.append(column.TaperMark);
+  }
+  const QJsonObject report{
+      {"outcome", ToQt(outcome.outcome)},
+      {"messages", MessagesJson()},
+      {"check", QJsonValue::Null},
+      {"text", ToQt(CodePageToUtf8(outcome.text))},
+      {"notifications", QJsonArray()},
+      {"registers", RegistersJson()},
+      {"panels", PanelsJson()},
+      {"resumes", outcome.resumes},
+      {"points_played", static_cast<qint64>(GCodes::PointsPlayed)},
+      {"profile", profile},
+      {"taper", taper},
+      {"surface_sha256", SurfaceHash(Graphics::StockDC.Read())},
+  };
+  return QJsonDocument(report).toJson();
+}
+
+std::string ProfileCsv() {
+  std::string csv = "z_mm,radius_mm,taper\n";
+  int z = 0;
+  for (const Graphics::ProfileColumn& column : Graphics::StockProfile) {
+    csv += Millimetres(z--) + ',' + Millimetres(column.Radius) + ',' +
+           DecimalText(column.TaperMark) + '\n';
+  }
+  return csv;
+}
+
+QByteArray SurfacePng(const Raster& surface) {
+  QByteArray bytes;
+  QBuffer buffer(&bytes);
+  buffer.open(QIODevice::WriteOnly);
+  ToImage(surface).save(&buffer, "PNG");
+  return bytes;
+}

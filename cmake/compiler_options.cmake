@@ -1,0 +1,17 @@
+# What every target of the project is compiled with.
+add_library(turnbay_options INTERFACE)
+target_include_directories(turnbay_options INTERFACE ${PROJECT_SOURCE_DIR})
+target_compile_options(turnbay_options INTERFACE -Wall -Wextra -Wconversion -Wshadow)
+if(TURNBAY_WARNINGS_AS_ERRORS)
+  target_compile_options(turnbay_options INTERFACE -Werror)
+endif()
+
+if(TURNBAY_SANITIZE)
+  set(sanitizers
+      -fsanitize=address,undefined,float-cast-overflow,implicit-conversion
+      -fno-sanitize-recover=all
+      -fsanitize-ignorelist=${CMAKE_CURRENT_LIST_DIR}/sanitizer_ignore.txt
+      -fno-omit-frame-pointer)
+  add_compile_options(${sanitizers})
+  add_link_options(${sanitizers})
+endif()

@@ -1,0 +1,115 @@
+#include "interpreter/run_driver.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "debugger/debug_grid.h"
+#include "debugger/run_commands.h"
+#include "interpreter/decoder.h"
+#include "interpreter/machine.h"
+#include "mainwindow/control_surface.h"
+#include "motion/stock.h"
+#include "motion/tool.h"
+#include "platform/desktop.h"
+#include "platform/numbers.h"
+#include "platform/text.h"
+
+namespace ModCNC {
+
+using namespace GlobalVariables;
+using frmMain::DebugWindow;
+
+namespace {
+
+constexpr std::string_view kBilletMark = "[BILLET";
+// Gap between the waiting tool and the right edge of the simulation area, in pixels.
+constexpr int kStartMargin = 20;
+
+struct Billet {
+  std::int16_t diameter = 0;
+  std::int16_t length = 0;
+};
+
+std::optional<std::string_view> FindBilletRow() {
+  if (frmMain::TextEditor().Find(kBilletMark) < 0) return std::nullopt;
+  for (int row = 0; row < DebugWindow.Rows(); ++row) {
+    const std::string_view text = DebugWindow.TextMatrix(row, frmMain::kTextColumn);
+    if (text.find(kBilletMark) != std::string_view::npos) return text;
+  }
+  return std::nullopt;
+}
+
+// The row is taken to begin with the mark. Starts from the billet as it is, since a word may be
+// missing.
+std::optional<Billet> ParseBillet(std::string_view row) {
+  const std::string_view words = Trim(Trim(row).substr(kBilletMark.size()));
+  const std::vector<std::string_view> parts = Split(words, " ");
+  if (parts.size() < 2) return std::nullopt;
+  Billet billet{BilletX, BilletZ};
+  for (const std::string_view part : {parts[0], parts[1]}) {
+    const char letter = part.empty() ? ' ' : part.front();
+    if (letter != 'X' && letter != 'Z') continue;
+    const auto millimetres = ParseNumber(part.substr(1));
+    if (!millimetres) return std::nullopt;
+    const auto units = RoundToInt16(*millimetres * 10);
+    if (!units || *units < 0) return std::nullopt;
+    (letter == 'X' ? billet.diameter : billet.length) = *units;
+  }
+  return billet;
+}
+
+void PlaceTool() {
+  CurrentX = BilletX;
+  CurrentZ = ClipToInt16(SimWidth - Graphics::ToolWidth - kStartMargin - BilletZ);
+  Graphics::MoveTool(CurrentZ, CurrentX);
+  Graphics::DrawSurface();
+}
+
+// A comment row isn't executed; of a row with a comment behind its words, the words are.
+void ExecuteRow(std::string_view text) {
+  if (!text.empty() && text.front() == '[') return;
+  ExecuteBlock(text.substr(0, text.find('[')));
+  Desktop::Yield();
+}
+
+}  // namespace
+
+std::int16_t ReadBilletLine() {
+  const auto row = FindBilletRow();
+  const auto billet = row ? ParseBillet(*row) : std::nullopt;
+  if (!billet) {
+    Desktop::MessageBox("Billet Size Not Found", Desktop::kCritical);
+    return kFalse;
+  }
+  BilletX = billet->diameter;
+  BilletZ = billet->length;
+  return kTrue;
+}
+
+void RunProgram() {
+  if (ReadBilletLine() == kFalse) return;
+  Graphics::InitStock(BilletZ, BilletX);
+  PlaceTool();
+  const std::int16_t rows = ClipToInt16(DebugWindow.Rows());
+  frmMain::ProgressBar.Max = rows;
+  frmMain::ProgressBar.Value = 0;
+  for (std::int16_t row = 0; row < rows; ++row) {
+    frmMain::ProgressBar.Value = row + 1;
+    CurrentRow = row;
+    // A copy, taken before the yield: the row may be edited in place meanwhile.
+    const std::string text = DebugWindow.TextMatrix(row, frmMain::kTextColumn);
+    if (StopRequested != kFalse) return;
+    frmMain::RemoveHighLighting(static_cast<std::int16_t>(row - 1));
+    frmMain::HighLightExecutingLine(row);
+    Desktop::Yield();
+    ExecuteRow(text);
+    if (frmMain::Toolbar.Buttons("Step").Value == 1) {
+      frmMain::mnuRunPause_Click();
+      frmMain::EnableCommands("Step", true);
+    }
+  }
+}
+
+}  // namespace ModCNC

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <cstdint>
+
+namespace ModCNC {
+
+// Reads the row "[BILLET X20 Z40" (diameter and length in mm, in either order) into BilletX and
+// BilletZ. Returns -1, or 0 after a message when the program has no billet line or its numbers
+// can't be read; then nothing is changed. A word other than X or Z leaves its register as it was.
+std::int16_t ReadBilletLine();
+
+// Plays the rows of DebugWindow from the first to the last, or until StopRequested is seen.
+// Called by mnuRunStart_Click only, and never while a run is active.
+// Reads the rows and the Step button; writes the registers, CurrentRow, the stock and ProgressBar.
+// Yields twice a row and in every motion.
+void RunProgram();
+
+}  // namespace ModCNC

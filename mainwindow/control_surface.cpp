@@ -1,0 +1,96 @@
+#include "mainwindow/control_surface.h"
+
+#include <initializer_list>
+
+#include "platform/text.h"
+
+namespace frmMain {
+
+ToolBar Toolbar;
+
+MenuEntry mnuFile;
+MenuEntry mnuFileSave;
+MenuEntry mnuFilePrint;
+MenuEntry mnuView;
+MenuEntry mnuViewStatusBar{.Checked = true};
+MenuEntry mnuViewToolBar{.Checked = true};
+MenuEntry mnuViewTextEditor{.Checked = true};
+MenuEntry mnuViewDebugWindow;
+MenuEntry mnuRunStart;
+MenuEntry mnuRunPause;
+MenuEntry mnuRunStop;
+MenuEntry mnuRunStepInto;
+MenuEntry mnuTools;
+MenuEntry mnuToolsPlaySound{.Checked = true};
+MenuEntry mnuHelp;
+MenuEntry mnuToolBarShowLabels{.Checked = true};
+
+StatusBarControl StatusBar;
+ProgressGauge ProgressBar;
+SliderControl Slider;
+PictureBox picSim;
+GridTable DebugWindow;
+
+namespace {
+
+RichText textEditor;
+
+struct CommandMenu {
+  std::string_view key;
+  MenuEntry* entry;
+};
+
+// The commands whose menu entry follows the button; the others move the button alone.
+constexpr CommandMenu kCommandMenus[] = {
+    {"Save", &mnuFileSave},  {"Print", &mnuFilePrint}, {"Start", &mnuRunStart},
+    {"Pause", &mnuRunPause}, {"Stop", &mnuRunStop},    {"Step", &mnuRunStepInto},
+};
+
+}  // namespace
+
+RichText& TextEditor() {
+  return textEditor;
+}
+
+void EnableCommands(std::string_view names, bool enable) {
+  for (const std::string_view name : Split(names, ",")) {
+    if (ToolButton* button = Toolbar.Find(name)) button->Enabled = enable;
+    for (const CommandMenu& command : kCommandMenus) {
+      if (command.key == name) command.entry->Enabled = enable;
+    }
+  }
+}
+
+bool IsRunPaused() {
+  return !Toolbar.Buttons("Pause").Enabled && Toolbar.Buttons("Stop").Enabled;
+}
+
+void ResetControlSurface() {
+  Toolbar = {};
+  StatusBar = {};
+  for (MenuEntry* entry :
+       {&mnuFile, &mnuFileSave, &mnuFilePrint, &mnuView, &mnuViewDebugWindow, &mnuRunStart,
+        &mnuRunPause, &mnuRunStop, &mnuRunStepInto, &mnuTools, &mnuHelp}) {
+    *entry = {};
+  }
+  for (MenuEntry* entry : {&mnuViewStatusBar, &mnuViewToolBar, &mnuViewTextEditor,
+                           &mnuToolsPlaySound, &mnuToolBarShowLabels}) {
+    *entry = {.Checked = true};
+  }
+  ProgressBar = {};
+  Slider = {};
+  picSim = {};
+  DebugWindow = {};
+  textEditor = {};
+  GlobalVariables::SimWidth = 0;
+  GlobalVariables::SimHeight = 0;
+}
+
+}  // namespace frmMain
+
+namespace GlobalVariables {
+
+std::int16_t SimWidth = 0;
+std::int16_t SimHeight = 0;
+
+}  // namespace GlobalVariables

@@ -1,0 +1,95 @@
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+#include "platform/controls.h"
+#include "platform/grid_table.h"
+#include "platform/rich_text.h"
+
+// The main window's controls. They are the only store of much of the program's state: a run's
+// state is the Enabled of the buttons "Pause" and "Stop", a document's modified mark the Enabled
+// of "Save", and the rows of DebugWindow are the program that a run plays.
+namespace frmMain {
+
+// Commands. A command changes only through EnableCommands.
+inline constexpr std::array<std::string_view, 9> kCommandKeys = {
+    "New", "Open", "Save", "Print", "Step", "Start", "Pause", "Stop", "Options"};
+
+class ToolBar : public KeyedItems<ToolButton, kCommandKeys.size()> {
+ public:
+  ToolBar() : KeyedItems(kCommandKeys) {}
+  // The key must be one of kCommandKeys.
+  ToolButton& Buttons(std::string_view key) { return *Find(key); }
+};
+extern ToolBar Toolbar;
+
+extern MenuEntry mnuFile;
+extern MenuEntry mnuFileSave;
+extern MenuEntry mnuFilePrint;
+extern MenuEntry mnuView;
+extern MenuEntry mnuViewStatusBar;
+extern MenuEntry mnuViewToolBar;
+extern MenuEntry mnuViewTextEditor;
+extern MenuEntry mnuViewDebugWindow;
+extern MenuEntry mnuRunStart;
+extern MenuEntry mnuRunPause;
+extern MenuEntry mnuRunStop;
+// Its check mark is the master of the Value of the button "Step".
+extern MenuEntry mnuRunStepInto;
+extern MenuEntry mnuTools;
+// Sound wanted. Starts checked, never stored.
+extern MenuEntry mnuToolsPlaySound;
+extern MenuEntry mnuHelp;
+extern MenuEntry mnuToolBarShowLabels;
+
+inline constexpr std::array<std::string_view, 9> kPanelKeys = {
+    "FileName", "FeedRate",    "Dim",    "SpindleSpeed", "SpindleDirection",
+    "Coolant",  "ProgressBar", "Slider", "ToolPosition"};
+
+class StatusBarControl : public KeyedItems<StatusPanel, kPanelKeys.size()> {
+ public:
+  StatusBarControl() : KeyedItems(kPanelKeys) {}
+  // The key must be one of kPanelKeys.
+  StatusPanel& Panels(std::string_view key) { return *Find(key); }
+};
+extern StatusBarControl StatusBar;
+
+// The rows of the program: Max is their count, Value the rows begun.
+extern ProgressGauge ProgressBar;
+// The speed of a run; set by the user, read by PlayPath.
+extern SliderControl Slider;
+extern PictureBox picSim;
+
+// Columns of DebugWindow.
+inline constexpr int kLineNumberColumn = 0;
+inline constexpr int kMarkColumn = 1;
+inline constexpr int kTextColumn = 2;
+inline constexpr int kBreakColumn = 3;
+// What the break column of a row with a break point holds; else it is empty.
+inline constexpr std::string_view kBreakPoint = "BP";
+
+// The program store of a run, at most 32,767 rows.
+extern GridTable DebugWindow;
+
+// Holds the program text.
+RichText& TextEditor();
+
+// Opens or closes the commands named in a list divided by commas, without blanks: each button
+// first, then the menu entry that follows it. A name that is no command is passed over.
+void EnableCommands(std::string_view names, bool enable);
+
+// True when the buttons say so: "Pause" closed and "Stop" open. There is no other sign of it.
+bool IsRunPaused();
+
+void ResetControlSurface();
+
+}  // namespace frmMain
+
+namespace GlobalVariables {
+
+// Inner size of picSim in pixels. Written by the layout of the main window.
+extern std::int16_t SimWidth;
+extern std::int16_t SimHeight;
+
+}  // namespace GlobalVariables

@@ -1,0 +1,121 @@
+#include "motion/stock.h"
+
+#include <cstdlib>
+#include <new>
+
+#include "interpreter/machine.h"
+#include "mainwindow/control_surface.h"
+#include "motion/tool.h"
+#include "platform/desktop.h"
+#include "platform/numbers.h"
+#include "settings/settings.h"
+
+namespace Graphics {
+
+using GlobalVariables::BilletZ;
+using GlobalVariables::Settings;
+using GlobalVariables::SimHeight;
+using GlobalVariables::SimWidth;
+
+std::vector<ProfileColumn> StockProfile;
+StockSurface StockDC;
+std::int16_t CentreLine = 0;
+std::int16_t TaperCut = 0;
+
+namespace {
+
+constexpr const char* kNoMemory = "There is not enough memory for the simulation picture.";
+
+std::int16_t BilletRadius(std::int16_t diameter) {
+  // Half of a 16-bit value always fits.
+  return *RoundToInt16(diameter / 2.0);
+}
+
+void CutProfile(int z, int x) {
+  const int column = -z;
+  const int radius = std::abs(x);
+  if (column < 0 || column >= static_cast<int>(StockProfile.size())) return;
+  ProfileColumn& entry = StockProfile[static_cast<std::size_t>(column)];
+  if (entry.Radius <= radius) return;
+  if (TaperCut == 1) entry.TaperMark = 1;
+  entry.Radius = static_cast<std::int16_t>(radius);
+}
+
+// Colours the work piece pixels of a column from row `top` down to its mirror row and a little on.
+void MarkShoulder(int column, int top) {
+  for (int row = top; row <= SimHeight - top + 2; ++row) {
+    if (StockDC.Read().GetPixel(column, row) == Settings.WorkPieceColor) {
+      StockDC.SetPixel(column, row, Settings.EffectColor);
+    }
+  }
+}
+
+}  // namespace
+
+void CreateSurface() {
+  try {
+    StockDC.Create(SimWidth, SimHeight, Settings.SimBackColor);
+  } catch (const std::bad_alloc&) {
+    Desktop::MessageBox(kNoMemory);
+    return;
+  }
+  CentreLine = static_cast<std::int16_t>(SimHeight / 2);
+}
+
+void ClearSurface() {
+  StockDC.Fill({0, 0, StockDC.Width(), StockDC.Height()}, Settings.SimBackColor);
+}
+
+void InitStock(std::int16_t z, std::int16_t x) {
+  BilletZ = z;
+  const std::int16_t radius = BilletRadius(x);
+  try {
+    StockProfile.assign(static_cast<std::size_t>(z) + 1, {radius, 0});
+  } catch (const std::bad_alloc&) {
+    Desktop::MessageBox(kNoMemory);
+    return;
+  }
+  StockDC.Fill({0, CentreLine - radius, z, CentreLine + radius}, Settings.WorkPieceColor);
+}
+
+void MoveTool(int z, int x) {
+  CutProfile(z, x);
+  const PixelPoint from{LastToolX, LastToolY};
+  const int column = BilletZ + z;
+  LastToolX = column;
+  LastToolY = CentreLine - x - ToolHeight;
+  StockDC.MoveTool(ToolDC, from, {LastToolX, LastToolY}, {column, CentreLine + x});
+}
+
+void DrawSurface() {
+  if (!frmMain::picSim.Blt) return;
+  const Raster& surface = StockDC.Read();
+  frmMain::picSim.Blt(surface, StockDC.TakeChanged());
+}
+
+void ApplyEffect() {
+  for (int column = 0; column <= BilletZ; ++column) {
+    for (int row = 0; row <= CentreLine; ++row) {
+      const Raster& surface = StockDC.Read();
+      if (surface.GetPixel(column, row) == Settings.WorkPieceColor &&
+          surface.GetPixel(column + 1, row) == Settings.SimBackColor) {
+        MarkShoulder(column, row);
+      }
+    }
+  }
+  DrawSurface();
+}
+
+void ResetStock() {
+  StockProfile.clear();
+  FreeToolDCs();
+  ToolWidth = 0;
+  ToolHeight = 0;
+  LastToolX = 0;
+  LastToolY = 0;
+  StockDC = {};
+  CentreLine = 0;
+  TaperCut = 0;
+}
+
+}  // namespace Graphics

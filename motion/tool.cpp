@@ -1,0 +1,34 @@
+#include "motion/tool.h"
+
+#include "motion/stock.h"
+#include "platform/desktop.h"
+#include "platform/pictures.h"
+#include "settings/settings.h"
+
+namespace Graphics {
+
+std::int16_t ToolWidth = 0;
+std::int16_t ToolHeight = 0;
+ToolImage ToolDC;
+int LastToolX = 0;
+int LastToolY = 0;
+
+void LoadTool(const std::string& path, std::int16_t width, std::int16_t height) {
+  FreeToolDCs();
+  ToolWidth = width;
+  ToolHeight = height;
+  std::string reason;
+  const auto picture = LoadPicture(path, reason);
+  if (!picture) {
+    Desktop::MessageBox(reason);
+    return;
+  }
+  ToolDC = {Sprite(*picture, width, height, kTransparent), GlobalVariables::Settings.SimBackColor};
+}
+
+void FreeToolDCs() {
+  StockDC.Forget();
+  ToolDC = {};
+}
+
+}  // namespace Graphics

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <string>
+
+// What the logic asks of the event runtime. The linker picks the bodies: the Qt desktop, the
+// windowless player, or the scripted desktop of the tests.
+namespace Desktop {
+
+// Handles every event that is waiting, each to its end, then returns. Handlers run inside the
+// call: whatever was read before it may have changed after it.
+void Yield();
+
+// As Yield, but waits until at least one event has been handled: a paused run costs no time.
+void WaitForEvent();
+
+// Blocks the one thread. 0 gives up the rest of the time slice.
+void Sleep(int milliseconds);
+
+// Styles of a message box: one set of buttons plus one icon.
+constexpr int kOkOnly = 0;
+constexpr int kYesNoCancel = 3;
+constexpr int kCritical = 16;
+constexpr int kQuestion = 32;
+constexpr int kInformation = 64;
+
+// Answers of a message box.
+constexpr int kOk = 1;
+constexpr int kCancel = 2;
+constexpr int kYes = 6;
+constexpr int kNo = 7;
+
+// Shows a text modally and returns the button chosen. An empty title stands for the program's own.
+int MessageBox(const std::string& text, int style = kOkOnly, const std::string& title = "");
+
+// Flags of sndPlaySoundA.
+constexpr int kSoundAsync = 1;
+constexpr int kSoundLoop = 8;
+
+// Plays a wave file, replacing the sound before. A file that can't be played is silence.
+void sndPlaySoundA(const std::string& path, int flags);
+
+}  // namespace Desktop

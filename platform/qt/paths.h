@@ -1,0 +1,8 @@
+#pragma once
+
+#include <QString>
+#include <string>
+
+// The path as this system spells it: "\" counts as "/", and where no such file exists, a name that
+// differs in case alone stands for it.
+QString ResolvePath(const std::string& path);

@@ -1,0 +1,50 @@
+#include "platform/desktop.h"
+
+#include <cstdio>
+#include <utility>
+
+#include "platform/windowless/windowless.h"
+
+namespace {
+
+std::vector<Windowless::MessageRecord> messages;
+std::function<void()> yieldHook;
+std::function<void()> waitHook;
+
+}  // namespace
+
+namespace Windowless {
+
+const std::vector<MessageRecord>& Messages() {
+  return messages;
+}
+
+void SetHooks(std::function<void()> onYield, std::function<void()> onWait) {
+  yieldHook = std::move(onYield);
+  waitHook = std::move(onWait);
+}
+
+}  // namespace Windowless
+
+namespace Desktop {
+
+void Yield() {
+  if (yieldHook) yieldHook();
+}
+
+void WaitForEvent() {
+  if (waitHook) waitHook();
+}
+
+void Sleep(int /*milliseconds*/) {}
+
+int MessageBox(const std::string& text, int style, const std::string& title) {
+  messages.push_back({text, style, title});
+  std::fprintf(stderr, "%s%s%s\n", title.c_str(), title.empty() ? "" : " ", text.c_str());
+  // The first button is the default one.
+  return (style & kYesNoCancel) == kYesNoCancel ? kYes : kOk;
+}
+
+void sndPlaySoundA(const std::string& /*path*/, int /*flags*/) {}
+
+}  // namespace Desktop

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+// The desktop of a program without a window: no events, no waiting, no sound; a message box is a
+// line on standard error and is answered with its default; settings live in memory.
+namespace Windowless {
+
+struct MessageRecord {
+  std::string text;
+  int style = 0;
+  std::string title;
+};
+
+// Every message box so far, in order.
+const std::vector<MessageRecord>& Messages();
+
+// Called at each yield, and where a paused run would wait. Nothing else can end such a wait, so
+// onWait must resume or stop the run.
+void SetHooks(std::function<void()> onYield, std::function<void()> onWait);
+
+}  // namespace Windowless

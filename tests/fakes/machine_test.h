@@ -1,0 +1,68 @@
+#pragma once
+
+#include <gtest/gtest.h>
+#include <string>
+#include <vector>
+
+#include "debugger/run_commands.h"
+#include "interpreter/machine.h"
+#include "mainwindow/control_surface.h"
+#include "mainwindow/program_start.h"
+#include "mainwindow/start_up.h"
+#include "motion/stock.h"
+#include "tests/fakes/fakes.h"
+
+// A machine as it stands after start-up, with a simulation area of 400 by 300 pixels, the Slider at
+// 10, sound off, and a default tool whose opaque shape is a triangle that rises to the right of
+// its tip.
+class MachineTest : public testing::Test {
+ protected:
+  void SetUp() override {
+    Fakes::Reset();
+    frmMain::ResetToProgramStart();
+    frmMain::Form_Load();
+    Fakes::PutPicture("/app/tools/tool.bmp", TriangleTool(67, 101));
+    GlobalVariables::SimWidth = 400;
+    GlobalVariables::SimHeight = 300;
+    Graphics::CreateSurface();
+    frmMain::Slider.Value = 10;
+    frmMain::mnuToolsPlaySound.Checked = false;
+  }
+  void TearDown() override {
+    Fakes::Verify();
+    frmMain::ResetToProgramStart();
+  }
+
+  static constexpr Colour kToolColour = Rgb(90, 90, 90);
+
+  static Raster TriangleTool(int width, int height) {
+    Raster picture(width, height);
+    picture.Fill(picture.Area(), kTransparent);
+    for (int x = 0; x < width; ++x) {
+      picture.Fill({x, 0, x + 1, height - x}, kToolColour);
+    }
+    return picture;
+  }
+
+  // Makes the program of these lines the one that is loaded.
+  static void Load(const std::vector<std::string>& lines) {
+    std::string text;
+    for (std::size_t i = 0; i < lines.size(); ++i) text += (i > 0 ? "\r\n" : "") + lines[i];
+    frmMain::TextEditor().SetText(text);
+    frmMain::DebugWindow.SetRows(static_cast<int>(lines.size()));
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+      frmMain::DebugWindow.SetTextMatrix(static_cast<int>(i), frmMain::kTextColumn, lines[i]);
+    }
+    frmMain::EnableCommands("Start", true);
+  }
+
+  // Loads the program and presses Start.
+  static void Play(const std::vector<std::string>& lines) {
+    Load(lines);
+    frmMain::mnuRunStart_Click();
+  }
+
+  static int RadiusAt(int z) {
+    return Graphics::StockProfile.at(static_cast<std::size_t>(-z)).Radius;
+  }
+};
