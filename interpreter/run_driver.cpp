@@ -99,6 +99,7 @@ void RunProgram() {
     frmMain::ProgressBar.Value = row + 1;
     CurrentRow = row;
     // A copy, taken before the yield: the row may be edited in place meanwhile.
+    // NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
     const std::string text = DebugWindow.TextMatrix(row, frmMain::kTextColumn);
     if (StopRequested != kFalse) return;
     frmMain::RemoveHighLighting(static_cast<std::int16_t>(row - 1));

@@ -78,7 +78,7 @@ std::optional<PathPoint> FindCentre(Arc& arc, double radius, Turn turn) {
 
 void FillPath(Arc& arc, const PathPoint& centre, double radius, Turn turn) {
   if (std::abs(arc.startZ - centre.Z) < kAxisTolerance) arc.startZ += kAxisTolerance;
-  double startAngle = AngleOf(arc.startZ - centre.Z, arc.startX - centre.X);
+  const double startAngle = AngleOf(arc.startZ - centre.Z, arc.startX - centre.X);
   if (std::abs(arc.endZ - centre.Z) < kAxisTolerance) arc.endZ += kAxisTolerance;
   double endAngle = AngleOf(arc.endZ - centre.Z, arc.endX - centre.X);
 
@@ -91,10 +91,17 @@ void FillPath(Arc& arc, const PathPoint& centre, double radius, Turn turn) {
   // The angle grows by repeated addition, which decides whether a last point is still played.
   if (turn == Turn::Clockwise) {
     if (endAngle > startAngle) endAngle -= kTwoPi;
-    for (double a = startAngle; a >= endAngle; a -= kAngleStep) addPoint(a);
+    double angle = startAngle;
+    while (angle >= endAngle) {
+      addPoint(angle);
+      angle -= kAngleStep;
+    }
   } else {
-    if (endAngle < startAngle) startAngle -= kTwoPi;
-    for (double a = startAngle; a <= endAngle; a += kAngleStep) addPoint(a);
+    double angle = endAngle < startAngle ? startAngle - kTwoPi : startAngle;
+    while (angle <= endAngle) {
+      addPoint(angle);
+      angle += kAngleStep;
+    }
   }
 }
 

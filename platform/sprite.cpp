@@ -8,7 +8,8 @@ namespace {
 enum class Upright { Yes, No };
 
 std::size_t DirectionIndex(int dx, int dy) {
-  return static_cast<std::size_t>((dy + 1) * 3 + dx + 1);
+  const int index = (dy + 1) * 3 + dx + 1;
+  return static_cast<std::size_t>(index);
 }
 
 bool Contains(const PixelRect& outer, const PixelRect& inner) {

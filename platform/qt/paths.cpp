@@ -17,10 +17,10 @@ QString MatchingEntry(const QString& folder, const QString& name) {
 }  // namespace
 
 QString ResolvePath(const std::string& path) {
-  const QString given = QString::fromStdString(path);
+  QString given = QString::fromStdString(path);
   if (QFileInfo::exists(given)) return given;
   QString resolved;
-  const QStringList parts = QString(given).replace('\\', '/').split('/');
+  const QStringList parts = given.replace('\\', '/').split('/');
   for (qsizetype i = 0; i < parts.size(); ++i) {
     const QString folder = resolved.isEmpty() && i == 0 ? "." : resolved;
     if (i > 0) resolved += '/';

@@ -124,7 +124,7 @@ TEST_F(PlayerTest, APathLongerThan16BitsPlaysWhole) {
 TEST_F(PlayerTest, StopDuringAPauseDrawsNoFurtherPoint) {
   frmMain::EnableCommands("Pause,Stop", true);
   Fakes::AtYield(1, frmMain::mnuRunPause_Click);
-  Fakes::AtWait([this] {
+  Fakes::AtWait([] {
     EXPECT_EQ(10, GCodes::PointsPlayed);
     frmMain::mnuRunStop_Click();
   });
