@@ -38,10 +38,11 @@ void StockSurface::MoveTool(const ToolImage& tool, PixelPoint from, PixelPoint t
     if (FollowsLastStep(tool, from, to, mirror)) {
       const int dx = to.x - from.x;
       const int dy = to.y - from.y;
-      sprite.FillUncovered(raster_, from.x, from.y, dx, dy, tool.cutColour);
-      sprite.FillNewlyCoveredFlipped(raster_, mirror.x, mirror.y, dx, dy, tool.cutColour);
+      edges_.FillUncovered(raster_, from, dx, dy, tool.cutColour);
+      edges_.FillNewlyCoveredFlipped(raster_, mirror, dx, dy, tool.cutColour);
     } else {
-      Forget();
+      PaintPending();
+      if (lastTool_ != &tool) edges_ = SpriteEdges(sprite, raster_.Pitch());
       sprite.FillShape(raster_, from.x, from.y, tool.cutColour);
       sprite.FillShapeFlipped(raster_, mirror.x, mirror.y, tool.cutColour);
     }

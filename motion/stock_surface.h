@@ -1,22 +1,13 @@
 #pragma once
 
-#include <vector>
-
 #include "platform/raster.h"
 #include "platform/sprite.h"
+#include "platform/sprite_edges.h"
 
 // A loaded tool: its sprite, and the colour with which its shape cuts. 0 cuts nothing.
 struct ToolImage {
   Sprite sprite;
   Colour cutColour = 0;
-};
-
-// Where a tool is painted: the pixel of its top left corner.
-struct PixelPoint {
-  int x = 0;
-  int y = 0;
-
-  bool operator==(const PixelPoint&) const = default;
 };
 
 // The bitmap that a run draws on. What it holds after each step is what three transparent copies
@@ -35,7 +26,8 @@ class StockSurface {
   void SetPixel(int x, int y, Colour colour);
 
   // One step of the tool: erases its shape at `from`, cuts the flipped shape at `mirror`, shows the
-  // sprite at `to`. The tool must outlive the surface's use of it: see Forget.
+  // sprite at `to`; each is the pixel of a top left corner. The tool must outlive the surface's use
+  // of it: see Forget.
   void MoveTool(const ToolImage& tool, PixelPoint from, PixelPoint to, PixelPoint mirror);
 
   // Paints a tool that is still to be shown; call before the tool changes.
@@ -59,6 +51,7 @@ class StockSurface {
   // every pixel of the flipped shape at lastMirror_ has been cut, and the pixels under the shape at
   // last_ are of no account: the sprite covers them, or leaving them cuts them.
   const ToolImage* lastTool_ = nullptr;
+  SpriteEdges edges_;
   PixelPoint last_;
   PixelPoint lastMirror_;
   bool spritePending_ = false;

@@ -25,6 +25,11 @@ PixelRect Intersection(const PixelRect& a, const PixelRect& b) {
           std::min(a.bottom, b.bottom)};
 }
 
+bool Contains(const PixelRect& outer, const PixelRect& inner) {
+  return !inner.IsEmpty() && inner.left >= outer.left && inner.top >= outer.top &&
+         inner.right <= outer.right && inner.bottom <= outer.bottom;
+}
+
 Raster::Raster(int width, int height)
     : width_(std::max(width, 0)),
       height_(std::max(height, 0)),

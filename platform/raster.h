@@ -6,6 +6,14 @@
 
 #include "platform/colour.h"
 
+// A pixel of a surface; may lie off it.
+struct PixelPoint {
+  int x = 0;
+  int y = 0;
+
+  bool operator==(const PixelPoint&) const = default;
+};
+
 // A rectangle of pixels; right and bottom lie outside it.
 struct PixelRect {
   int left = 0;
@@ -20,6 +28,8 @@ struct PixelRect {
 // The smallest rectangle around both; an empty one counts for nothing.
 PixelRect Union(const PixelRect& a, const PixelRect& b);
 PixelRect Intersection(const PixelRect& a, const PixelRect& b);
+// An empty rectangle is contained nowhere.
+bool Contains(const PixelRect& outer, const PixelRect& inner);
 
 // A bitmap in memory, one Colour a pixel, (0, 0) at the top left. Whatever lies outside is neither
 // read nor written.

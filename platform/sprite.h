@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <vector>
 
@@ -13,8 +14,20 @@ struct PixelRun {
   std::int16_t length = 0;
 };
 
-// The opaque pixels of a picture: all but those of a key colour. Knows for each one-pixel move
-// which of its pixels the move uncovers, so that a step needs to write no more than those.
+// A pixel within a sprite.
+struct SpritePixel {
+  std::int16_t x = 0;
+  std::int16_t y = 0;
+};
+
+// The moves by (dx, dy), each -1 to 1, and the place of each in a table.
+constexpr std::size_t kDirections = 9;
+constexpr std::size_t DirectionIndex(int dx, int dy) {
+  const int index = (dy + 1) * 3 + dx + 1;
+  return static_cast<std::size_t>(index);
+}
+
+// The opaque pixels of a picture: all but those of a key colour.
 class Sprite {
  public:
   Sprite() = default;
@@ -33,20 +46,15 @@ class Sprite {
   void FillShape(Raster& target, int x, int y, Colour colour) const;
   void FillShapeFlipped(Raster& target, int x, int y, Colour colour) const;
 
-  // Fills what a move by (dx, dy), each -1 to 1, from (x, y) uncovers.
-  void FillUncovered(Raster& target, int x, int y, int dx, int dy, Colour colour) const;
-  // Fills what the flipped shape newly covers when it has moved by (dx, -dy) to (x, y), that is
-  // the mirror image of a sprite that has moved by (dx, dy).
-  void FillNewlyCoveredFlipped(Raster& target, int x, int y, int dx, int dy, Colour colour) const;
+  // The opaque pixels that a move by (dx, dy), each -1 to 1, leaves bare: those with no opaque
+  // pixel at (-dx, -dy) from them.
+  const std::vector<SpritePixel>& Edge(int dx, int dy) const;
 
  private:
-  const std::vector<PixelRun>& EdgeFor(int dx, int dy) const;
-
   int width_ = 0;
   int height_ = 0;
   // The opaque pixels of all runs, one run behind the other.
   std::vector<Colour> pixels_;
   std::vector<PixelRun> runs_;
-  // By (dy + 1) * 3 + (dx + 1): the runs left bare by a move in that direction.
-  std::array<std::vector<PixelRun>, 9> edges_;
+  std::array<std::vector<SpritePixel>, kDirections> edges_;
 };
