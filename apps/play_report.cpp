@@ -61,6 +61,16 @@ QJsonArray MessagesJson() {
   return array;
 }
 
+QJsonArray NotificationsJson() {
+  QJsonArray array;
+  for (const Windowless::NotificationRecord& notification : Windowless::Notifications()) {
+    array.append(QJsonObject{{"text", ToQt(notification.text)},
+                             {"time", notification.milliseconds},
+                             {"modal", notification.modal}});
+  }
+  return array;
+}
+
 QJsonObject RegistersJson() {
   QJsonObject object;
   for (const NamedRegister& entry : kRegisters) object[entry.name] = *entry.value;
@@ -116,7 +126,7 @@ QByteArray ReportJson(const PlayOutcome& outcome) {
       {"messages", MessagesJson()},
       {"check", QJsonValue::Null},
       {"text", ToQt(CodePageToUtf8(outcome.text))},
-      {"notifications", QJsonArray()},
+      {"notifications", NotificationsJson()},
       {"registers", RegistersJson()},
       {"panels", PanelsJson()},
       {"resumes", outcome.resumes},

@@ -1,8 +1,112 @@
+#include <array>
+#include <cstdint>
+#include <string>
+
+#include "debugger/run_commands.h"
 #include "interpreter/decoder.h"
+#include "interpreter/machine.h"
+#include "interpreter/tool_change.h"
+#include "mainwindow/control_surface.h"
+#include "mainwindow/notifications.h"
+#include "platform/numbers.h"
 
 namespace ModCNC {
 
-// The machine has no spindle, coolant or chuck to move yet: M words are passed over.
-void DecodeMWord(std::string_view /*word*/) {}
+namespace {
+
+struct MFunction;
+using Step = void (*)(const MFunction&);
+
+// How a notification is shown; the time is in milliseconds.
+struct Display {
+  std::int16_t modal;
+  std::int16_t time;
+};
+constexpr Display kPassing = {0, 2000};
+constexpr Display kWaiting = {1, 500};
+
+constexpr const char* kUnchanged = nullptr;
+
+struct MFunction {
+  std::int16_t number;
+  const char* notification;
+  Display display;
+  // Texts of panels. Whoever writes the direction writes the speed as well.
+  const char* direction;
+  const char* coolant;
+  std::array<Step, 3> steps;
+};
+
+void ShowNotification(const std::string& text, Display display) {
+  frmInfo::lblInfo.Caption = text;
+  frmMain::ShowInfoWindow(display.modal, display.time);
+}
+
+void Notify(const MFunction& function) {
+  ShowNotification(function.notification, function.display);
+}
+
+void NotifyTool(const MFunction& function) {
+  ShowNotification("Tool " + DecimalText(ToolNumber) + " loaded", function.display);
+}
+
+void WritePanels(const MFunction& function) {
+  if (function.direction != kUnchanged) {
+    frmMain::StatusBar.Panels("SpindleSpeed").Text = "S " + DecimalText(SpindleSpeed);
+    frmMain::StatusBar.Panels("SpindleDirection").Text = function.direction;
+  }
+  if (function.coolant != kUnchanged) frmMain::StatusBar.Panels("Coolant").Text = function.coolant;
+}
+
+void ClearSpeed(const MFunction& /*function*/) {
+  SpindleSpeed = 0;
+}
+void Pause(const MFunction& /*function*/) {
+  frmMain::mnuRunPause_Click();
+}
+void Stop(const MFunction& /*function*/) {
+  frmMain::mnuRunStop_Click();
+}
+void LoadNumberedTool(const MFunction& /*function*/) {
+  ChangeTool();
+}
+
+constexpr const char* kOn = "Coolant: ON";
+constexpr const char* kOff = "Coolant: OFF";
+
+// The steps of a row run from left to right.
+constexpr MFunction kMFunctions[] = {
+    {0, "Program Stop", kPassing, kUnchanged, kUnchanged, {Notify, Pause}},
+    {2, "Program End", kPassing, kUnchanged, kUnchanged, {Notify, Stop}},
+    {3, "Spindle Start CW", kPassing, "CW", kUnchanged, {Notify, WritePanels}},
+    {4, "Spindle Start CCW", kPassing, "CCW", kUnchanged, {Notify, WritePanels}},
+    {5, "Spindle Stop", kPassing, "", kUnchanged, {Notify, ClearSpeed, WritePanels}},
+    {6, "", kPassing, kUnchanged, kUnchanged, {NotifyTool, LoadNumberedTool}},
+    {8, "Coolant: ON", kPassing, kUnchanged, kOn, {WritePanels, Notify}},
+    {9, "Coolant: OFF", kPassing, kUnchanged, kOff, {WritePanels, Notify}},
+    {10, "Chuck OPEN", kWaiting, kUnchanged, kUnchanged, {Notify}},
+    {11, "Chuck CLOSE", kWaiting, kUnchanged, kUnchanged, {Notify}},
+    {13, "Spindle Start CW, Coolant ON", kPassing, "CW", kOn, {WritePanels, Notify}},
+    {14, "Spindle Start CCW, Coolant ON", kPassing, "CCW", kOn, {WritePanels, Notify}},
+    {25, "Quill Extend", kPassing, kUnchanged, kUnchanged, {Notify}},
+    {26, "Quill Retract", kPassing, kUnchanged, kUnchanged, {Notify}},
+    {30, "Program end and reset", kPassing, kUnchanged, kOff, {WritePanels, Stop, Notify}},
+    {38, "Door OPEN", kWaiting, kUnchanged, kUnchanged, {Notify}},
+    {39, "Door CLOSE", kWaiting, kUnchanged, kUnchanged, {Notify}},
+};
+
+}  // namespace
+
+void DecodeMWord(std::string_view word) {
+  const auto number = ParseInt16(word.substr(1));
+  if (!number) return;
+  for (const MFunction& function : kMFunctions) {
+    if (function.number != *number) continue;
+    for (const Step step : function.steps) {
+      if (step != nullptr) step(function);
+    }
+    return;
+  }
+}
 
 }  // namespace ModCNC

@@ -3,9 +3,11 @@
 #include "debugger/run_commands.h"
 #include "interpreter/machine.h"
 #include "mainwindow/control_surface.h"
+#include "mainwindow/notifications.h"
 #include "motion/player.h"
 #include "motion/stock.h"
 #include "settings/settings.h"
+#include "toollib/tool_files.h"
 
 namespace frmMain {
 
@@ -15,6 +17,8 @@ void ResetToProgramStart() {
   ModCNC::ResetMachine();
   Graphics::ResetStock();
   GCodes::ResetPlayer();
+  frmToolSelect::ResetToolFiles();
+  frmInfo::ResetNotifications();
   GlobalVariables::Settings = {};
 }
 

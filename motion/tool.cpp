@@ -23,7 +23,14 @@ void LoadTool(const std::string& path, std::int16_t width, std::int16_t height) 
     Desktop::MessageBox(reason);
     return;
   }
-  ToolDC = {Sprite(*picture, width, height, kTransparent), GlobalVariables::Settings.SimBackColor};
+  LoadTool(*picture, width, height);
+}
+
+void LoadTool(const Raster& picture, std::int16_t width, std::int16_t height) {
+  FreeToolDCs();
+  ToolWidth = width;
+  ToolHeight = height;
+  ToolDC = {Sprite(picture, width, height, kTransparent), GlobalVariables::Settings.SimBackColor};
 }
 
 void FreeToolDCs() {

@@ -29,6 +29,9 @@ inline constexpr int kOffSurface = -500;
 // Writes ToolWidth, ToolHeight and ToolDC.
 void LoadTool(const std::string& path, std::int16_t width, std::int16_t height);
 
+// The same with a picture that has been read already.
+void LoadTool(const Raster& picture, std::int16_t width, std::int16_t height);
+
 // Lets go of the loaded tool's pictures.
 void FreeToolDCs();
 

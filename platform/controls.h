@@ -5,6 +5,7 @@
 #include <functional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/property.h"
 #include "platform/raster.h"
@@ -49,6 +50,10 @@ class KeyedItems {
 
  private:
   std::array<Item, count> items_;
+};
+
+struct ComboBox {
+  Property<std::vector<std::string>> List;
 };
 
 struct ProgressGauge {

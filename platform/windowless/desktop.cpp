@@ -3,11 +3,13 @@
 #include <cstdio>
 #include <utility>
 
+#include "platform/notifications.h"
 #include "platform/windowless/windowless.h"
 
 namespace {
 
 std::vector<Windowless::MessageRecord> messages;
+std::vector<Windowless::NotificationRecord> notifications;
 std::function<void()> yieldHook;
 std::function<void()> waitHook;
 
@@ -17,6 +19,10 @@ namespace Windowless {
 
 const std::vector<MessageRecord>& Messages() {
   return messages;
+}
+
+const std::vector<NotificationRecord>& Notifications() {
+  return notifications;
 }
 
 void SetHooks(std::function<void()> onYield, std::function<void()> onWait) {
@@ -43,6 +49,10 @@ int MessageBox(const std::string& text, int style, const std::string& title) {
   std::fprintf(stderr, "%s%s%s\n", title.c_str(), title.empty() ? "" : " ", text.c_str());
   // The first button is the default one.
   return (style & kYesNoCancel) == kYesNoCancel ? kYes : kOk;
+}
+
+void ShowNotification(const std::string& text, int milliseconds, bool modal) {
+  notifications.push_back({text, milliseconds, modal});
 }
 
 void sndPlaySoundA(const std::string& /*path*/, int /*flags*/) {}

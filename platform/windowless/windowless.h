@@ -17,6 +17,15 @@ struct MessageRecord {
 // Every message box so far, in order.
 const std::vector<MessageRecord>& Messages();
 
+struct NotificationRecord {
+  std::string text;
+  int milliseconds = 0;
+  bool modal = false;
+};
+
+// Every notification so far, in order.
+const std::vector<NotificationRecord>& Notifications();
+
 // Called at each yield, and where a paused run would wait. Nothing else can end such a wait, so
 // onWait must resume or stop the run.
 void SetHooks(std::function<void()> onYield, std::function<void()> onWait);

@@ -8,6 +8,7 @@
 #include <stdexcept>
 
 #include "platform/files.h"
+#include "platform/notifications.h"
 #include "platform/pictures.h"
 #include "platform/settings_store.h"
 #include "platform/text.h"
@@ -31,6 +32,8 @@ struct World {
   std::function<void()> atEachYield;
   std::deque<std::function<void()>> atWait;
   std::deque<ExpectedMessage> messages;
+  std::vector<Fakes::Notification> notifications;
+  std::function<void()> atEachNotification;
   std::vector<int> sleeps;
   std::vector<std::string> sounds;
   std::map<std::string, Raster> pictures;
@@ -97,6 +100,13 @@ void ExpectMessage(const std::string& text, int style, const std::string& title,
   world.messages.push_back({text, style, title, answer});
 }
 
+const std::vector<Notification>& Notifications() {
+  return world.notifications;
+}
+void AtEachNotification(std::function<void()> action) {
+  world.atEachNotification = std::move(action);
+}
+
 const std::vector<int>& Sleeps() {
   return world.sleeps;
 }
@@ -158,6 +168,12 @@ int MessageBox(const std::string& text, int style, const std::string& title) {
   EXPECT_EQ(expected.style, style) << text;
   EXPECT_EQ(expected.title, title) << text;
   return expected.answer;
+}
+
+void ShowNotification(const std::string& text, int milliseconds, bool modal) {
+  world.notifications.push_back({text, milliseconds, modal});
+  if (world.atEachNotification) world.atEachNotification();
+  if (modal) HandleEvents();
 }
 
 void sndPlaySoundA(const std::string& path, int flags) {

@@ -31,6 +31,18 @@ int Waits();
 void ExpectMessage(const std::string& text, int style, const std::string& title = "",
                    int answer = Desktop::kOk);
 
+struct Notification {
+  std::string text;
+  int milliseconds = 0;
+  bool modal = false;
+
+  bool operator==(const Notification&) const = default;
+};
+// Every notification so far, in order. A modal one handles events as Yield does.
+const std::vector<Notification>& Notifications();
+// Runs `action` as each notification appears.
+void AtEachNotification(std::function<void()> action);
+
 // Milliseconds of every Sleep, and paths of every sound, in order.
 const std::vector<int>& Sleeps();
 const std::vector<std::string>& Sounds();

@@ -1,0 +1,80 @@
+#include "interpreter/tool_change.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+
+#include "interpreter/machine.h"
+#include "motion/tool.h"
+#include "platform/desktop.h"
+#include "platform/numbers.h"
+#include "platform/pictures.h"
+#include "toollib/tool_files.h"
+#include "toollib/tool_folder.h"
+
+namespace ModCNC {
+
+using GlobalVariables::kToolCount;
+
+namespace {
+
+constexpr const char* kAssignAnother = " Assign another bitmap to it in the tool library.";
+
+// The file name of the tool's bitmap; empty, with a reason, when the library has none.
+std::optional<std::string> BitmapName(std::string& reason) {
+  if (ToolNumber < 0 || ToolNumber >= kToolCount) {
+    reason = "The tool library has the numbers 0 to " + DecimalText(kToolCount - 1) +
+             " only. Change the T word.";
+    return std::nullopt;
+  }
+  const std::string& name = GlobalVariables::ToolFiles[static_cast<std::size_t>(ToolNumber)];
+  if (name.empty()) {
+    reason = "It has no bitmap. Assign one to it in the tool library, or change the T word.";
+    return std::nullopt;
+  }
+  if (!GlobalVariables::IsBareBitmapName(name)) {
+    reason = "Its entry in the tool list, \"" + name +
+             "\", isn't the name of a bitmap in the tool folder." + kAssignAnother;
+    return std::nullopt;
+  }
+  return name;
+}
+
+bool LoadBitmap(const std::string& name, std::string& reason) {
+  const std::string path = GlobalVariables::ToolFolder() + name;
+  std::int16_t height = 0;
+  std::int16_t width = 0;
+  if (!GlobalVariables::ReadToolSize(path, height, width, reason)) {
+    reason += kAssignAnother;
+    return false;
+  }
+  if (width <= 0 || height <= 0) {
+    reason = "Its description file \"" + GlobalVariables::DescriptionPath(name) + "\" needs a " +
+             (width <= 0 ? "width" : "height") + " above 0, in a line such as " +
+             (width <= 0 ? "TOOLWIDTH=67." : "TOOLHEIGHT=101.");
+    return false;
+  }
+  const auto picture = LoadPicture(path, reason);
+  if (!picture) {
+    reason += kAssignAnother;
+    return false;
+  }
+  Graphics::FreeToolDCs();
+  Graphics::LoadTool(*picture, width, height);
+  return true;
+}
+
+}  // namespace
+
+void ChangeTool() {
+  frmToolSelect::GetToolList();
+  std::string reason;
+  const auto name = BitmapName(reason);
+  if (name && LoadBitmap(*name, reason)) return;
+  Desktop::MessageBox("Tool " + DecimalText(ToolNumber) +
+                          " can't be loaded, so the tool stays as it was. " + reason,
+                      Desktop::kCritical, "Error!");
+}
+
+}  // namespace ModCNC
