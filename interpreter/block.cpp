@@ -6,6 +6,7 @@
 #include "mainwindow/control_surface.h"
 #include "motion/cycles.h"
 #include "motion/moves.h"
+#include "motion/pattern_cycle.h"
 #include "platform/numbers.h"
 #include "platform/text.h"
 

@@ -4,6 +4,7 @@
 #include "interpreter/machine.h"
 #include "mainwindow/control_surface.h"
 #include "mainwindow/notifications.h"
+#include "motion/pattern_cycle.h"
 #include "motion/player.h"
 #include "motion/stock.h"
 #include "settings/settings.h"
@@ -17,6 +18,7 @@ void ResetToProgramStart() {
   ModCNC::ResetMachine();
   Graphics::ResetStock();
   GCodes::ResetPlayer();
+  GCodes::ResetPatternCycle();
   frmToolSelect::ResetToolFiles();
   frmInfo::ResetNotifications();
   GlobalVariables::Settings = {};

@@ -70,6 +70,4 @@ void ExecuteG94() {
   TargetZ = targetZ;
 }
 
-void ExecuteG73() {}
-
 }  // namespace GCodes

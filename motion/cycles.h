@@ -14,7 +14,4 @@ void ExecuteG90();
 // Facing cycle: the same with the axes' roles exchanged.
 void ExecuteG94();
 
-// Repetitive pattern cycle: no effect yet.
-void ExecuteG73();
-
 }  // namespace GCodes
