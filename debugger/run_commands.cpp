@@ -1,7 +1,8 @@
 #include "debugger/run_commands.h"
 
 #include "debugger/debug_grid.h"
-#include "editor/program_text.h"
+#include "editor/reformat.h"
+#include "editor/syntax_check.h"
 #include "interpreter/machine.h"
 #include "interpreter/run_driver.h"
 #include "mainwindow/control_surface.h"

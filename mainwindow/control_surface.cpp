@@ -2,6 +2,8 @@
 
 #include <initializer_list>
 
+#include "editor/editor_events.h"
+#include "platform/memory_rich_text.h"
 #include "platform/text.h"
 
 namespace frmMain {
@@ -33,7 +35,16 @@ GridTable DebugWindow;
 
 namespace {
 
-RichText textEditor;
+MemoryRichText textBuffer;
+
+MemoryRichText MakeEditor() {
+  MemoryRichText editor;
+  editor.WatchChange(TextEditor_Change);
+  return editor;
+}
+
+MemoryRichText memoryEditor = MakeEditor();
+RichText* textEditor = &memoryEditor;
 
 struct CommandMenu {
   std::string_view key;
@@ -49,7 +60,26 @@ constexpr CommandMenu kCommandMenus[] = {
 }  // namespace
 
 RichText& TextEditor() {
-  return textEditor;
+  return *textEditor;
+}
+
+RichText& TextBuffer() {
+  return textBuffer;
+}
+
+void SetTextEditor(RichText* body) {
+  RichText& former = *textEditor;
+  RichText& next = body != nullptr ? *body : memoryEditor;
+  if (&next == &former) return;
+  former.WatchChange({});
+  next.WatchChange({});
+  next.SetTextRTF(former.TextRTF());
+  next.Locked = former.Locked;
+  next.Visible = former.Visible;
+  next.BackColor = former.BackColor;
+  next.Font.Name = former.Font.Name;
+  next.WatchChange(TextEditor_Change);
+  textEditor = &next;
 }
 
 void EnableCommands(std::string_view names, bool enable) {
@@ -81,7 +111,9 @@ void ResetControlSurface() {
   Slider = {};
   picSim = {};
   DebugWindow = {};
-  textEditor = {};
+  textBuffer = {};
+  memoryEditor = MakeEditor();
+  textEditor = &memoryEditor;
   GlobalVariables::SimWidth = 0;
   GlobalVariables::SimHeight = 0;
 }

@@ -72,8 +72,15 @@ inline constexpr std::string_view kBreakPoint = "BP";
 // The program store of a run, at most 32,767 rows.
 extern GridTable DebugWindow;
 
-// Holds the program text.
+// Holds the program text. Every change of it calls TextEditor_Change.
 RichText& TextEditor();
+
+// Scratch control of ColourText, never shown.
+RichText& TextBuffer();
+
+// Makes `body` the text editor, or the one in memory when it is null. What the former body held
+// goes along, without a call of TextEditor_Change. A body must be taken out before it is destroyed.
+void SetTextEditor(RichText* body);
 
 // Opens or closes the commands named in a list divided by commas, without blanks: each button
 // first, then the menu entry that follows it. A name that is no command is passed over.

@@ -1,6 +1,7 @@
 #include "mainwindow/program_start.h"
 
 #include "debugger/run_commands.h"
+#include "editor/editor_events.h"
 #include "interpreter/machine.h"
 #include "mainwindow/control_surface.h"
 #include "mainwindow/notifications.h"
@@ -15,6 +16,7 @@ namespace frmMain {
 void ResetToProgramStart() {
   ResetControlSurface();
   ResetRunCommands();
+  TextChanged = kFalse;
   ModCNC::ResetMachine();
   Graphics::ResetStock();
   GCodes::ResetPlayer();

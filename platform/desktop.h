@@ -29,8 +29,14 @@ constexpr int kCancel = 2;
 constexpr int kYes = 6;
 constexpr int kNo = 7;
 
-// Shows a text modally and returns the button chosen. An empty title stands for the program's own.
+// Shows a text (UTF-8) modally and returns the button chosen. An empty title stands for the
+// program's own.
 int MessageBox(const std::string& text, int style = kOkOnly, const std::string& title = "");
+
+// Puts key strokes into the queue of the control that has the focus: the characters of `keys`, or
+// the right arrow for kRightArrowKeys. They arrive at a later yield.
+void SendKeys(const std::string& keys);
+inline constexpr const char* kRightArrowKeys = "{RIGHT}";
 
 // Flags of sndPlaySoundA.
 constexpr int kSoundAsync = 1;

@@ -90,8 +90,8 @@ std::int16_t ClipToInt16(int value) {
                                                    std::numeric_limits<std::int16_t>::max()));
 }
 
-std::string DecimalText(int value) {
-  std::array<char, 16> buffer{};
+std::string DecimalText(std::int64_t value) {
+  std::array<char, 24> buffer{};
   const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value);
   return {buffer.data(), result.ptr};
 }

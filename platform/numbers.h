@@ -32,6 +32,6 @@ int RoundToPixel(double value);
 // A sum of positions, clipped to the 16-bit range of the registers.
 std::int16_t ClipToInt16(int value);
 
-std::string DecimalText(int value);
+std::string DecimalText(std::int64_t value);
 // The shortest text that reads back as the same number.
 std::string NumberText(double value);

@@ -5,7 +5,8 @@
 #include "platform/text.h"
 
 std::ptrdiff_t RichText::Find(std::string_view wanted) const {
-  const auto place = std::search(text_.begin(), text_.end(), wanted.begin(), wanted.end(),
+  const std::string& text = Text();
+  const auto place = std::search(text.begin(), text.end(), wanted.begin(), wanted.end(),
                                  [](char a, char b) { return ToUpper(a) == ToUpper(b); });
-  return place == text_.end() ? -1 : place - text_.begin();
+  return place == text.end() ? -1 : place - text.begin();
 }

@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
-// The desktop of a program without a window: no events, no waiting, no sound; a message box is a
-// line on standard error and is answered with its default; settings live in memory.
+// The desktop of a program without a window: no events, no waiting, no keys, no sound; a message
+// box is a line on standard error and is answered with its default; settings live in memory.
 namespace Windowless {
 
 struct MessageRecord {

@@ -34,6 +34,11 @@ struct World {
   std::deque<ExpectedMessage> messages;
   std::vector<Fakes::Notification> notifications;
   std::function<void()> atEachNotification;
+  bool collectsMessages = false;
+  std::vector<Fakes::Message> shownMessages;
+  std::vector<std::string> sentKeys;
+  std::deque<std::string> keyQueue;
+  std::function<void(const std::string&)> atSentKeys;
   std::vector<int> sleeps;
   std::vector<std::string> sounds;
   std::map<std::string, Raster> pictures;
@@ -51,8 +56,17 @@ std::string Normalized(const std::string& path) {
   return result;
 }
 
+void DeliverKeys() {
+  while (!world.keyQueue.empty()) {
+    const std::string keys = world.keyQueue.front();
+    world.keyQueue.pop_front();
+    if (world.atSentKeys) world.atSentKeys(keys);
+  }
+}
+
 void HandleEvents() {
   if (++world.yields > kYieldBudget) throw std::runtime_error("the yields never end");
+  DeliverKeys();
   const auto [first, last] = world.atYield.equal_range(world.yields);
   std::vector<std::function<void()>> actions;
   for (auto action = first; action != last; ++action) actions.push_back(action->second);
@@ -107,6 +121,20 @@ void AtEachNotification(std::function<void()> action) {
   world.atEachNotification = std::move(action);
 }
 
+void CollectMessages() {
+  world.collectsMessages = true;
+}
+const std::vector<Message>& Messages() {
+  return world.shownMessages;
+}
+
+const std::vector<std::string>& SentKeys() {
+  return world.sentKeys;
+}
+void AtSentKeys(std::function<void(const std::string&)> reaction) {
+  world.atSentKeys = std::move(reaction);
+}
+
 const std::vector<int>& Sleeps() {
   return world.sleeps;
 }
@@ -158,6 +186,8 @@ void Sleep(int milliseconds) {
 }
 
 int MessageBox(const std::string& text, int style, const std::string& title) {
+  world.shownMessages.push_back({text, style, title});
+  if (world.collectsMessages) return kOk;
   if (world.messages.empty()) {
     ADD_FAILURE() << "unexpected message box: " << title << ": " << text;
     return kOk;
@@ -174,6 +204,11 @@ void ShowNotification(const std::string& text, int milliseconds, bool modal) {
   world.notifications.push_back({text, milliseconds, modal});
   if (world.atEachNotification) world.atEachNotification();
   if (modal) HandleEvents();
+}
+
+void SendKeys(const std::string& keys) {
+  world.sentKeys.push_back(keys);
+  world.keyQueue.push_back(keys);
 }
 
 void sndPlaySoundA(const std::string& path, int flags) {

@@ -43,6 +43,22 @@ const std::vector<Notification>& Notifications();
 // Runs `action` as each notification appears.
 void AtEachNotification(std::function<void()> action);
 
+// From now on no message box needs to be expected; each is kept and gets the answer OK.
+void CollectMessages();
+struct Message {
+  std::string text;
+  int style = 0;
+  std::string title;
+
+  bool operator==(const Message&) const = default;
+};
+const std::vector<Message>& Messages();
+
+// Every call of SendKeys, in order. `reaction` gets the keys one call at a time, inside the next
+// yield: the control that has the focus.
+const std::vector<std::string>& SentKeys();
+void AtSentKeys(std::function<void(const std::string&)> reaction);
+
 // Milliseconds of every Sleep, and paths of every sound, in order.
 const std::vector<int>& Sleeps();
 const std::vector<std::string>& Sounds();

@@ -1,0 +1,118 @@
+#include "editor/syntax_check.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "mainwindow/view_toggles.h"
+#include "platform/code_page.h"
+#include "platform/desktop.h"
+#include "platform/numbers.h"
+#include "platform/text.h"
+
+namespace frmMain {
+
+namespace {
+
+constexpr std::string_view kAllowedCharacters = "FGIKMNPQRSTUWXZ0123456789.-+";
+constexpr std::array<std::int16_t, 15> kGNumbers = {0,  1,  2,  3,  4,  21, 28, 70,
+                                                    71, 72, 73, 90, 94, 97, 98};
+
+enum class FaultKind { invalidCharacter, missingLetter, badNumber, badGCode };
+
+struct Fault {
+  FaultKind kind = FaultKind::invalidCharacter;
+  // The selection that shows it, in bytes of the text.
+  std::size_t start = 0;
+  std::size_t length = 0;
+};
+
+bool IsAllowed(char c) {
+  return kAllowedCharacters.find(ToUpper(c)) != std::string_view::npos;
+}
+
+bool IsGNumber(std::string_view number) {
+  const auto value = ParseInt16(number);
+  return value && std::find(kGNumbers.begin(), kGNumbers.end(), *value) != kGNumbers.end();
+}
+
+// Judges a word that stands at `start` of the text and isn't empty.
+std::optional<Fault> FaultOfWord(std::string_view word, std::size_t start) {
+  const auto invalid = std::find_if_not(word.begin(), word.end(), IsAllowed);
+  if (invalid != word.end()) {
+    const auto place = static_cast<std::size_t>(invalid - word.begin());
+    return Fault{FaultKind::invalidCharacter, start + place, 1};
+  }
+  const char letter = ToUpper(word.front());
+  if (letter < 'A' || letter > 'Z') return Fault{FaultKind::missingLetter, start, 1};
+  const std::string_view number = word.substr(1);
+  if (!IsNumeric(number)) return Fault{FaultKind::badNumber, start + 1, number.size()};
+  if (letter == 'G' && !IsGNumber(number)) return Fault{FaultKind::badGCode, start, word.size()};
+  return std::nullopt;
+}
+
+std::optional<Fault> FaultOfLine(std::string_view line, std::size_t start) {
+  for (const std::string_view word : Split(line, " ")) {
+    if (word.empty()) continue;
+    if (word.front() == '[') return std::nullopt;
+    if (const auto fault =
+            FaultOfWord(word, start + static_cast<std::size_t>(word.data() - line.data())))
+      return fault;
+  }
+  return std::nullopt;
+}
+
+std::optional<Fault> FindFault(std::string_view text) {
+  for (const std::string_view line : Split(text, kLineEnd)) {
+    if (const auto fault = FaultOfLine(line, static_cast<std::size_t>(line.data() - text.data())))
+      return fault;
+  }
+  return std::nullopt;
+}
+
+void Select(RichText& editor, const Fault& fault) {
+  editor.SetSelStart(fault.start);
+  editor.SetSelLength(fault.length);
+}
+
+// The selection becomes a blank over which the missing letter can be typed.
+void OpenPlaceForLetter(RichText& editor, const Fault& fault) {
+  editor.SetSelText(' ' + editor.SelText());
+  Select(editor, fault);
+}
+
+std::string Message(FaultKind kind, const std::string& selected) {
+  switch (kind) {
+    case FaultKind::invalidCharacter:
+      return "An invalid character '" + selected + "' was found.";
+    case FaultKind::missingLetter:
+      return "Missing Character at this position.";
+    case FaultKind::badNumber:
+      return "This is not a valid numeric value";
+    case FaultKind::badGCode:
+      return selected + " is not a valid G Code";
+  }
+  return {};
+}
+
+void Report(RichText& editor, const Fault& fault) {
+  if (!editor.Visible) mnuViewTextEditor_Click();
+  Select(editor, fault);
+  if (fault.kind == FaultKind::missingLetter) OpenPlaceForLetter(editor, fault);
+  Desktop::MessageBox(Message(fault.kind, CodePageToUtf8(editor.SelText())), Desktop::kInformation,
+                      "Syntax Error!");
+}
+
+}  // namespace
+
+bool CheckSyntax(RichText& editor) {
+  const auto fault = FindFault(editor.Text());
+  if (fault) Report(editor, *fault);
+  return fault.has_value();
+}
+
+}  // namespace frmMain
