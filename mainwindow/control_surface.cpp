@@ -72,7 +72,6 @@ void SetTextEditor(RichText* body) {
   RichText& next = body != nullptr ? *body : memoryEditor;
   if (&next == &former) return;
   former.WatchChange({});
-  next.WatchChange({});
   next.SetTextRTF(former.TextRTF());
   next.Locked = former.Locked;
   next.Visible = former.Visible;
