@@ -55,21 +55,22 @@ std::optional<Fault> FaultOfWord(std::string_view word, std::size_t start) {
   return std::nullopt;
 }
 
+std::size_t OffsetIn(std::string_view text, std::string_view part) {
+  return static_cast<std::size_t>(part.data() - text.data());
+}
+
 std::optional<Fault> FaultOfLine(std::string_view line, std::size_t start) {
   for (const std::string_view word : Split(line, " ")) {
     if (word.empty()) continue;
     if (word.front() == '[') return std::nullopt;
-    if (const auto fault =
-            FaultOfWord(word, start + static_cast<std::size_t>(word.data() - line.data())))
-      return fault;
+    if (const auto fault = FaultOfWord(word, start + OffsetIn(line, word))) return fault;
   }
   return std::nullopt;
 }
 
 std::optional<Fault> FindFault(std::string_view text) {
   for (const std::string_view line : Split(text, kLineEnd)) {
-    if (const auto fault = FaultOfLine(line, static_cast<std::size_t>(line.data() - text.data())))
-      return fault;
+    if (const auto fault = FaultOfLine(line, OffsetIn(text, line))) return fault;
   }
   return std::nullopt;
 }

@@ -38,7 +38,8 @@ const FaultRow kFaults[] = {
     {"%\r\nG00 X5", "|%|\r\nG00 X5", Invalid("%")},
     {"O8007\r\nG21", "|O|8007\r\nG21", Invalid("O")},
     {"N10 G00 X5;", "N10 G00 X5|;|", Invalid(";")},
-    {"(face the end)", "|(| F A C E T H E E N D)", Invalid("(")},
+    {"G21\r\n( )", "G21\r\n|(|)", Invalid("(")},
+    {"(face it)", "|(| F A C E I T)", Invalid("(")},
     // Each kind, and which of two comes first.
     {"g01 x20 y5 a3", "G01 X20 |Y|5 A3", Invalid("Y")},
     {"G01 X20\r\nG20", "G01 X20\r\n|G20|", BadG("G20")},
