@@ -1,0 +1,20 @@
+#pragma once
+
+#include <string_view>
+
+// What the fuzz targets do with one input. A broken promise ends the process, as a sanitizer does.
+namespace Fuzz {
+
+// Bytes of a program file: reformats, checks and plays it.
+void Program(std::string_view bytes);
+
+// One line a value, in the order of the settings' rows: loads them.
+void Settings(std::string_view values);
+
+// A tool list, the byte 1, and a description file: reads both, changes the tool, writes the list.
+void ToolFiles(std::string_view files);
+
+// Ends the process with a message when `holds` is false.
+void Require(bool holds, const char* promise);
+
+}  // namespace Fuzz
