@@ -3,7 +3,8 @@
 #include <vector>
 
 #include "debugger/run_commands.h"
-#include "editor/program_text.h"
+#include "editor/reformat.h"
+#include "editor/syntax_check.h"
 #include "fuzz/bodies.h"
 #include "fuzz/quiet_desktop.h"
 #include "interpreter/machine.h"

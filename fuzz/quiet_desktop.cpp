@@ -97,6 +97,8 @@ void ShowNotification(const std::string& /*text*/, int /*milliseconds*/, bool mo
   if (modal) Yield();
 }
 
+void SendKeys(const std::string& /*keys*/) {}
+
 void sndPlaySoundA(const std::string& /*path*/, int /*flags*/) {}
 
 }  // namespace Desktop
