@@ -80,6 +80,8 @@ void Program(std::string_view bytes) {
   frmMain::ReformatText(editor);
   Require(editor.Text() == reformatted, "reformatting twice is reformatting once");
   if (frmMain::CheckSyntax(editor)) {
+    Require(editor.SelStart() + editor.SelLength() <= editor.Text().size(),
+            "a fault lies in the text");
     PlayUnchecked();
   } else {
     FillRows(reformatted);

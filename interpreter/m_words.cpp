@@ -29,8 +29,8 @@ constexpr const char* kUnchanged = nullptr;
 
 struct MFunction {
   std::int16_t number;
-  const char* notification;
   Display display;
+  const char* notification;
   // Texts of panels. Whoever writes the direction writes the speed as well.
   const char* direction;
   const char* coolant;
@@ -76,23 +76,23 @@ constexpr const char* kOff = "Coolant: OFF";
 
 // The steps of a row run from left to right.
 constexpr MFunction kMFunctions[] = {
-    {0, "Program Stop", kPassing, kUnchanged, kUnchanged, {Notify, Pause}},
-    {2, "Program End", kPassing, kUnchanged, kUnchanged, {Notify, Stop}},
-    {3, "Spindle Start CW", kPassing, "CW", kUnchanged, {Notify, WritePanels}},
-    {4, "Spindle Start CCW", kPassing, "CCW", kUnchanged, {Notify, WritePanels}},
-    {5, "Spindle Stop", kPassing, "", kUnchanged, {Notify, ClearSpeed, WritePanels}},
-    {6, "", kPassing, kUnchanged, kUnchanged, {NotifyTool, LoadNumberedTool}},
-    {8, "Coolant: ON", kPassing, kUnchanged, kOn, {WritePanels, Notify}},
-    {9, "Coolant: OFF", kPassing, kUnchanged, kOff, {WritePanels, Notify}},
-    {10, "Chuck OPEN", kWaiting, kUnchanged, kUnchanged, {Notify}},
-    {11, "Chuck CLOSE", kWaiting, kUnchanged, kUnchanged, {Notify}},
-    {13, "Spindle Start CW, Coolant ON", kPassing, "CW", kOn, {WritePanels, Notify}},
-    {14, "Spindle Start CCW, Coolant ON", kPassing, "CCW", kOn, {WritePanels, Notify}},
-    {25, "Quill Extend", kPassing, kUnchanged, kUnchanged, {Notify}},
-    {26, "Quill Retract", kPassing, kUnchanged, kUnchanged, {Notify}},
-    {30, "Program end and reset", kPassing, kUnchanged, kOff, {WritePanels, Stop, Notify}},
-    {38, "Door OPEN", kWaiting, kUnchanged, kUnchanged, {Notify}},
-    {39, "Door CLOSE", kWaiting, kUnchanged, kUnchanged, {Notify}},
+    {0, kPassing, "Program Stop", kUnchanged, kUnchanged, {Notify, Pause}},
+    {2, kPassing, "Program End", kUnchanged, kUnchanged, {Notify, Stop}},
+    {3, kPassing, "Spindle Start CW", "CW", kUnchanged, {Notify, WritePanels}},
+    {4, kPassing, "Spindle Start CCW", "CCW", kUnchanged, {Notify, WritePanels}},
+    {5, kPassing, "Spindle Stop", "", kUnchanged, {Notify, ClearSpeed, WritePanels}},
+    {6, kPassing, "", kUnchanged, kUnchanged, {NotifyTool, LoadNumberedTool}},
+    {8, kPassing, "Coolant: ON", kUnchanged, kOn, {WritePanels, Notify}},
+    {9, kPassing, "Coolant: OFF", kUnchanged, kOff, {WritePanels, Notify}},
+    {10, kWaiting, "Chuck OPEN", kUnchanged, kUnchanged, {Notify}},
+    {11, kWaiting, "Chuck CLOSE", kUnchanged, kUnchanged, {Notify}},
+    {13, kPassing, "Spindle Start CW, Coolant ON", "CW", kOn, {WritePanels, Notify}},
+    {14, kPassing, "Spindle Start CCW, Coolant ON", "CCW", kOn, {WritePanels, Notify}},
+    {25, kPassing, "Quill Extend", kUnchanged, kUnchanged, {Notify}},
+    {26, kPassing, "Quill Retract", kUnchanged, kUnchanged, {Notify}},
+    {30, kPassing, "Program end and reset", kUnchanged, kOff, {WritePanels, Stop, Notify}},
+    {38, kWaiting, "Door OPEN", kUnchanged, kUnchanged, {Notify}},
+    {39, kWaiting, "Door CLOSE", kUnchanged, kUnchanged, {Notify}},
 };
 
 }  // namespace

@@ -85,6 +85,7 @@ bool RunRows(RowRange rows) {
     if (GlobalVariables::StopRequested == kTrue) return false;
     MoveMarkTo(static_cast<std::int16_t>(row));
     // A copy: the row may be edited in place while its block runs.
+    // NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
     const std::string text = DebugWindow.TextMatrix(row, frmMain::kTextColumn);
     if (text.starts_with('[')) continue;
     ExecuteBlock(std::string_view(text).substr(0, text.find('[')));

@@ -43,8 +43,9 @@ std::string ItemText(int toolNumber) {
 }
 
 std::vector<std::string> AllItems() {
-  std::vector<std::string> items;
-  for (int n = 0; n < GlobalVariables::kToolCount; ++n) items.push_back(ItemText(n));
+  std::vector<std::string> items(GlobalVariables::kToolCount);
+  int n = 0;
+  for (std::string& item : items) item = ItemText(n++);
   return items;
 }
 

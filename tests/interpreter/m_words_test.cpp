@@ -64,7 +64,7 @@ TEST_P(MFunctionTest, ShowsAndActsInItsOrder) {
   Play({"[BILLET X20 Z40", word + " S150 G00 X30 Z5", "M26"});
 
   const bool endsRun = word == "M02" || word == "M30";
-  const std::vector<Notification> shown = Fakes::Notifications();
+  const std::vector<Notification>& shown = Fakes::Notifications();
   ASSERT_EQ(endsRun ? 1u : 2u, shown.size());
   EXPECT_EQ(expected.notification, shown.front());
   EXPECT_EQ(expected.atNotification, states.front());

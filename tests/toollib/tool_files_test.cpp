@@ -69,7 +69,7 @@ TEST_F(ToolFilesTest, ListTakesWhatItCan) {
 }
 
 TEST_F(ToolFilesTest, HostileListIsRead) {
-  const std::string nul("2=a\0b.bmp\r\n\0=x\r\n4\0=y\r\n", 23);
+  const std::string nul("2=a\0b.bmp\r\n\0=x\r\n4\0=y\r\n", 22);
   EXPECT_THAT(ReadList(nul), ElementsAre(std::string("2:a\0b.bmp", 9)));
   EXPECT_THAT(ReadList("1=" + std::string(2'000'000, 'a') + "\r\n2=b").at(1), "2:b");
   EXPECT_THAT(ReadList(std::string(2'000'000, '7') + "=a\r\n2=b"), ElementsAre("2:b"));
