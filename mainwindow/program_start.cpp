@@ -1,8 +1,11 @@
 #include "mainwindow/program_start.h"
 
+#include "debugger/row_edit.h"
 #include "debugger/run_commands.h"
+#include "editor/editor_events.h"
 #include "interpreter/machine.h"
 #include "mainwindow/control_surface.h"
+#include "mainwindow/layout.h"
 #include "motion/player.h"
 #include "motion/stock.h"
 #include "settings/settings.h"
@@ -12,6 +15,9 @@ namespace frmMain {
 void ResetToProgramStart() {
   ResetControlSurface();
   ResetRunCommands();
+  ResetRowEdit();
+  ResetLayout();
+  TextChanged = kFalse;
   ModCNC::ResetMachine();
   Graphics::ResetStock();
   GCodes::ResetPlayer();
