@@ -12,13 +12,17 @@
 #include "debugger/run_commands.h"
 #include "interpreter/machine.h"
 #include "mainwindow/control_surface.h"
+#include "mainwindow/layout.h"
 #include "mainwindow/start_up.h"
+#include "mainwindow/view_toggles.h"
 #include "motion/stock.h"
 #include "platform/code_page.h"
 #include "platform/files.h"
 #include "platform/numbers.h"
+#include "platform/settings_store.h"
 #include "platform/text.h"
 #include "platform/windowless/windowless.h"
+#include "settings/settings.h"
 #include "toollib/tool_folder.h"
 
 namespace {
@@ -72,12 +76,20 @@ void ShowProgress(int row) {
   std::fprintf(stderr, "\rrow %d of %d", row, frmMain::ProgressBar.Max.Get());
 }
 
+// With every other view off the simulation area is as large as the window, and stays so.
+void ShowSimulationAlone() {
+  for (const std::string_view view : {"Toolbar", "StatusBar", "TextEditor", "DebugWindow"}) {
+    SaveSetting(GlobalVariables::kApplication, "ViewOptions", view, frmMain::FlagText(false));
+  }
+}
+
 void Play(const PlayOptions& options) {
+  ShowSimulationAlone();
+  frmMain::ScaleWidth = options.width;
+  frmMain::ScaleHeight = options.height;
   frmMain::Form_Load();
+  frmMain::Form_Resize();
   GlobalVariables::SetToolFolder(options.tools);
-  GlobalVariables::SimWidth = options.width;
-  GlobalVariables::SimHeight = options.height;
-  Graphics::CreateSurface();
   frmMain::Slider.Value = SliderControl::kMax;
   frmMain::mnuToolsPlaySound.Checked = false;
   Windowless::SetHooks({}, ResumeRun);

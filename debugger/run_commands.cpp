@@ -1,11 +1,14 @@
 #include "debugger/run_commands.h"
 
 #include "debugger/debug_grid.h"
+#include "debugger/row_edit.h"
+#include "editor/editor_events.h"
 #include "editor/reformat.h"
 #include "editor/syntax_check.h"
 #include "interpreter/machine.h"
 #include "interpreter/run_driver.h"
 #include "mainwindow/control_surface.h"
+#include "mainwindow/view_toggles.h"
 #include "motion/player.h"
 #include "motion/stock.h"
 #include "motion/tool.h"
@@ -18,8 +21,8 @@ std::int16_t SaveWasEnabled = kFalse;
 
 namespace {
 
-// The buttons are idle as soon as Stop is pressed, while the run below is still leaving: a Start
-// in that moment must not begin a second one.
+// A run is on the stack. The buttons are idle as soon as Stop is pressed, while the run below is
+// still leaving: a Start in that moment must not begin a second one.
 bool runActive = false;
 
 // Menus that are closed as a whole during a run, in the order of their closing.
@@ -45,34 +48,67 @@ void CloseCommandsForRun() {
   TextEditor().Locked = true;
 }
 
+// Brings the rows into view in place of the editor, and up to date with its text. Where the grid is
+// in view already, the rows and their break points stay.
+void ShowRows() {
+  if (mnuViewTextEditor.Checked) {
+    mnuViewDebugWindow_Click();
+  } else if (!mnuViewDebugWindow.Checked && TextChanged != kFalse) {
+    FillDebugWindow();
+  }
+}
+
+void PlayRows() {
+  Graphics::LastToolX = Graphics::kOffSurface;
+  Graphics::LastToolY = Graphics::kOffSurface;
+  Graphics::ClearSurface();
+  DebugWindow.TopRow = 0;
+  ModCNC::RunProgram();
+  Graphics::ApplyEffect();
+}
+
 void PlayProgram() {
+  runActive = true;
+  GlobalVariables::StopRequested = kFalse;
   CloseCommandsForRun();
   Graphics::LoadTool(GlobalVariables::ToolFolder() + "tool.bmp", kDefaultToolWidth,
                      kDefaultToolHeight);
   EnableCommands("Pause,Stop", true);
-  Graphics::LastToolX = Graphics::kOffSurface;
-  Graphics::LastToolY = Graphics::kOffSurface;
-  Graphics::ClearSurface();
-  GlobalVariables::StopRequested = kFalse;
-  DebugWindow.TopRow = 0;
-  runActive = true;
-  ModCNC::RunProgram();
-  runActive = false;
-  Graphics::ApplyEffect();
+  ShowRows();
+  // The user may have pressed Stop while the view changed.
+  if (GlobalVariables::StopRequested == kFalse) PlayRows();
   mnuRunStop_Click();
+  runActive = false;
 }
 
-}  // namespace
+void OpenCommandsAfterRun() {
+  EnableCommands("Save", SaveWasEnabled != kFalse);
+  EnableCommands("New,Open,Print,Start,Step,Options", true);
+  EnableCommands("Pause,Stop", false);
+  EnableMenus(true);
+  TextEditor().Locked = false;
+}
 
-void mnuRunStart_Click() {
+// A run whose picture is wanted only at a break point is told so by `toBreakpoint`.
+void StartOrResume(bool toBreakpoint) {
+  txtDebug_LostFocus();
   if (IsRunPaused()) {
     Resume();
     return;
   }
-  if (runActive) return;
+  if (runActive || Closing) return;
   ReformatText(TextEditor());
   if (CheckSyntax(TextEditor())) return;
+  if (!toBreakpoint) GlobalVariables::RunToBreakpoint = kFalse;
   PlayProgram();
+}
+
+}  // namespace
+
+bool Closing = false;
+
+void mnuRunStart_Click() {
+  StartOrResume(false);
 }
 
 void mnuRunPause_Click() {
@@ -83,11 +119,9 @@ void mnuRunPause_Click() {
 }
 
 void mnuRunStop_Click() {
-  EnableCommands("Save", SaveWasEnabled != kFalse);
-  EnableCommands("New,Open,Print,Start,Step,Options", true);
-  EnableCommands("Pause,Stop", false);
-  EnableMenus(true);
-  TextEditor().Locked = false;
+  // At the end of a run that was stopped they are open already, and the user may have moved them.
+  const bool isSecondPass = runActive && GlobalVariables::StopRequested != kFalse;
+  if (!isSecondPass) OpenCommandsAfterRun();
   GlobalVariables::StopRequested = kTrue;
   RemoveHighLighting(GlobalVariables::CurrentRow);
   GlobalVariables::CurrentRow = 0;
@@ -105,11 +139,20 @@ void mnuRunStepInto_Click() {
 
 void mnuRunRunToBreakpoint_Click() {
   GlobalVariables::RunToBreakpoint = kTrue;
-  mnuRunStart_Click();
+  StartOrResume(true);
+}
+
+bool CloseDuringRun() {
+  if (!runActive) return false;
+  Closing = true;
+  mnuRunStop_Click();
+  return true;
 }
 
 void ResetRunCommands() {
   SaveWasEnabled = kFalse;
+  Closing = false;
+  runActive = false;
 }
 
 }  // namespace frmMain

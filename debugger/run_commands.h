@@ -11,14 +11,17 @@ inline constexpr int kDefaultToolWidth = 67;
 inline constexpr int kDefaultToolHeight = 101;
 
 // Resumes a paused run, or plays the program from its first row to its end. A run is one long call.
-// Yields, through RunProgram.
+// A new run takes an open edit of a row over, reformats and checks the text, and shows itself:
+// RunToBreakpoint is cleared. While a run is still leaving after a Stop nothing happens.
+// Yields, through the view toggle and RunProgram.
 void mnuRunStart_Click();
 
 // Enters the paused state; the move player waits at its next point.
 void mnuRunPause_Click();
 
 // Ends the run: the commands are idle at once, and the driver and the executors below leave at
-// their next check. Zeroes the positions. May run twice in one run.
+// their next check. Zeroes the positions. May run twice in one run; the second time it leaves the
+// commands as they are by then.
 void mnuRunStop_Click();
 
 // Inverts the Step toggle.
@@ -28,7 +31,16 @@ void mnuRunStepInto_Click();
 // flag.
 void mnuRunRunToBreakpoint_Click();
 
-// Flag: the state of the "Save" command at Start, given back at Stop.
+// Called when the window is asked to close, before anything else. With no run on the stack it does
+// nothing and returns false. Else it ends the run, sets Closing and returns true: the window stays,
+// and whoever called mnuRunStart_Click or mnuRunRunToBreakpoint_Click asks again after the return.
+bool CloseDuringRun();
+
+// The window has been closed during a run: no further run starts, and no question is asked.
+extern bool Closing;
+
+// Flag: the state of the "Save" command at Start, given back at Stop. An edit of a row during the
+// run sets it.
 extern std::int16_t SaveWasEnabled;
 
 void ResetRunCommands();

@@ -67,6 +67,11 @@ void PlaceTool() {
   Graphics::DrawSurface();
 }
 
+// A copy, since the row may be edited in place during a yield.
+std::string RowText(std::int16_t row) {
+  return DebugWindow.TextMatrix(row, frmMain::kTextColumn);
+}
+
 // A comment row isn't executed; of a row with a comment behind its words, the words are.
 void ExecuteRow(std::string_view text) {
   if (!text.empty() && text.front() == '[') return;
@@ -98,10 +103,9 @@ void RunProgram() {
   for (std::int16_t row = 0; row < rows; ++row) {
     frmMain::ProgressBar.Value = row + 1;
     CurrentRow = row;
-    // A copy, taken before the yield: the row may be edited in place meanwhile.
-    // NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
-    const std::string text = DebugWindow.TextMatrix(row, frmMain::kTextColumn);
+    // After a Stop the rows may be those of another program.
     if (StopRequested != kFalse) return;
+    const std::string text = RowText(row);
     frmMain::RemoveHighLighting(static_cast<std::int16_t>(row - 1));
     frmMain::HighLightExecutingLine(row);
     Desktop::Yield();

@@ -1,12 +1,48 @@
 #include "mainwindow/control_surface.h"
 
 #include <initializer_list>
+#include <string>
 
 #include "editor/editor_events.h"
 #include "platform/memory_rich_text.h"
 #include "platform/text.h"
 
 namespace frmMain {
+
+namespace {
+
+// Heights and widths in pixels.
+constexpr double kToolBarHeight = 38;
+constexpr double kStatusBarHeight = 25;
+constexpr std::array<double, kPanelKeys.size()> kPanelWidths = {96,  96, 30, 70, 40,
+                                                                106, 96, 96, 150};
+
+GridTable HiddenGrid() {
+  GridTable grid;
+  grid.Visible = false;
+  return grid;
+}
+
+}  // namespace
+
+ToolBar::ToolBar() : KeyedItems(kCommandKeys) {
+  Bounds = {.Height = kToolBarHeight};
+  for (ToolButton& button : *this) button.Caption = std::string(button.Key);
+}
+
+StatusBarControl::StatusBarControl() : KeyedItems(kPanelKeys) {
+  Bounds = {.Height = kStatusBarHeight};
+  double left = 0;
+  for (std::size_t i = 0; StatusPanel & panel : *this) {
+    panel.Left = left;
+    panel.Width = kPanelWidths[i++];
+    left += panel.Width;
+  }
+}
+
+int ScaleWidth = 0;
+int ScaleHeight = 0;
+Property<int> WindowState = kNormal;
 
 ToolBar Toolbar;
 
@@ -31,7 +67,9 @@ StatusBarControl StatusBar;
 ProgressGauge ProgressBar;
 SliderControl Slider;
 PictureBox picSim;
-GridTable DebugWindow;
+GridTable DebugWindow = HiddenGrid();
+TextBox txtDebug;
+Property<ControlBounds> TextEditorBounds;
 
 namespace {
 
@@ -95,6 +133,9 @@ bool IsRunPaused() {
 }
 
 void ResetControlSurface() {
+  ScaleWidth = 0;
+  ScaleHeight = 0;
+  WindowState = kNormal;
   Toolbar = {};
   StatusBar = {};
   for (MenuEntry* entry :
@@ -109,7 +150,9 @@ void ResetControlSurface() {
   ProgressBar = {};
   Slider = {};
   picSim = {};
-  DebugWindow = {};
+  DebugWindow = HiddenGrid();
+  txtDebug = {};
+  TextEditorBounds = ControlBounds{};
   textBuffer = {};
   memoryEditor = MakeEditor();
   textEditor = &memoryEditor;

@@ -12,13 +12,25 @@
 // of "Save", and the rows of DebugWindow are the program that a run plays.
 namespace frmMain {
 
+// Inner size of the window in pixels, written by the window before it calls Form_Resize.
+extern int ScaleWidth;
+extern int ScaleHeight;
+
+inline constexpr int kNormal = 0;
+inline constexpr int kMinimized = 1;
+inline constexpr int kMaximized = 2;
+// State of the window, one of the above.
+extern Property<int> WindowState;
+
 // Commands. A command changes only through EnableCommands.
 inline constexpr std::array<std::string_view, 9> kCommandKeys = {
     "New", "Open", "Save", "Print", "Step", "Start", "Pause", "Stop", "Options"};
 
-class ToolBar : public KeyedItems<ToolButton, kCommandKeys.size()> {
+// Its height in Bounds is the control's own: a window that shows labels of another height writes it
+// as soon as the captions change.
+class ToolBar : public Control, public KeyedItems<ToolButton, kCommandKeys.size()> {
  public:
-  ToolBar() : KeyedItems(kCommandKeys) {}
+  ToolBar();
   // The key must be one of kCommandKeys.
   ToolButton& Buttons(std::string_view key) { return *Find(key); }
 };
@@ -47,9 +59,10 @@ inline constexpr std::array<std::string_view, 9> kPanelKeys = {
     "FileName", "FeedRate",    "Dim",    "SpindleSpeed", "SpindleDirection",
     "Coolant",  "ProgressBar", "Slider", "ToolPosition"};
 
-class StatusBarControl : public KeyedItems<StatusPanel, kPanelKeys.size()> {
+// Its height in Bounds is the control's own, as that of the tool bar.
+class StatusBarControl : public Control, public KeyedItems<StatusPanel, kPanelKeys.size()> {
  public:
-  StatusBarControl() : KeyedItems(kPanelKeys) {}
+  StatusBarControl();
   // The key must be one of kPanelKeys.
   StatusPanel& Panels(std::string_view key) { return *Find(key); }
 };
@@ -72,8 +85,13 @@ inline constexpr std::string_view kBreakPoint = "BP";
 // The program store of a run, at most 32,767 rows.
 extern GridTable DebugWindow;
 
+// Lies over the row that is edited in place.
+extern TextBox txtDebug;
+
 // Holds the program text. Every change of it calls TextEditor_Change.
 RichText& TextEditor();
+// Its place; the grid shares it.
+extern Property<ControlBounds> TextEditorBounds;
 
 // Scratch control of ColourText, never shown.
 RichText& TextBuffer();
@@ -95,7 +113,7 @@ void ResetControlSurface();
 
 namespace GlobalVariables {
 
-// Inner size of picSim in pixels. Written by the layout of the main window.
+// Inner size of picSim in pixels, 0 or more. Written by ResizeControls.
 extern std::int16_t SimWidth;
 extern std::int16_t SimHeight;
 

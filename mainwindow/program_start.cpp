@@ -1,9 +1,11 @@
 #include "mainwindow/program_start.h"
 
+#include "debugger/row_edit.h"
 #include "debugger/run_commands.h"
 #include "editor/editor_events.h"
 #include "interpreter/machine.h"
 #include "mainwindow/control_surface.h"
+#include "mainwindow/layout.h"
 #include "mainwindow/notifications.h"
 #include "motion/pattern_cycle.h"
 #include "motion/player.h"
@@ -16,6 +18,8 @@ namespace frmMain {
 void ResetToProgramStart() {
   ResetControlSurface();
   ResetRunCommands();
+  ResetRowEdit();
+  ResetLayout();
   TextChanged = kFalse;
   ModCNC::ResetMachine();
   Graphics::ResetStock();

@@ -7,14 +7,33 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/colour.h"
 #include "platform/property.h"
 #include "platform/raster.h"
 
 // What the logic needs of the main window's controls. They exist without any window; a window
 // mirrors them by watching their properties.
 
+// Where a control stands in its window, in pixels.
+struct ControlBounds {
+  double Left = 0;
+  double Top = 0;
+  double Width = 0;
+  double Height = 0;
+
+  bool operator==(const ControlBounds&) const = default;
+};
+
+// What every control that has a place of its own brings along.
+struct Control {
+  Property<bool> Visible = true;
+  Property<ControlBounds> Bounds;
+};
+
 struct ToolButton {
   std::string_view Key;
+  // Empty for a button without a label.
+  Property<std::string> Caption;
   Property<bool> Enabled = true;
   // 1 pressed, 0 not.
   Property<int> Value = 0;
@@ -28,6 +47,9 @@ struct MenuEntry {
 struct StatusPanel {
   std::string_view Key;
   Property<std::string> Text;
+  // Pixels, from the left edge of the status bar.
+  double Left = 0;
+  double Width = 0;
 };
 
 // Items found by key; the keys are fixed when the collection is made.
@@ -56,12 +78,12 @@ struct ComboBox {
   Property<std::vector<std::string>> List;
 };
 
-struct ProgressGauge {
+struct ProgressGauge : Control {
   Property<int> Max = 100;
   Property<int> Value = 0;
 };
 
-struct SliderControl {
+struct SliderControl : Control {
   static constexpr int kMin = -10;
   static constexpr int kMax = 10;
   // kMin to kMax.
@@ -70,6 +92,19 @@ struct SliderControl {
 
 // The simulation area. Whoever shows it sets `Blt`, which takes a copy of the changed part of the
 // surface; without one nothing is copied.
-struct PictureBox {
+struct PictureBox : Control {
+  Property<Colour> BackColor = Rgb(255, 255, 255);
   std::function<void(const Raster& surface, const PixelRect& changed)> Blt;
+};
+
+// A text box of one line, hidden at rest. Whoever shows it gives it the focus when it becomes
+// visible, with the caret at SelStart.
+struct TextBox : Control {
+  TextBox() { Visible = false; }
+
+  Property<std::string> Text;
+  Property<std::string> FontName;
+  // Points.
+  Property<int> FontSize = 10;
+  Property<int> SelStart = 0;
 };

@@ -7,9 +7,11 @@
 #include "debugger/run_commands.h"
 #include "interpreter/machine.h"
 #include "mainwindow/control_surface.h"
+#include "mainwindow/layout.h"
 #include "mainwindow/program_start.h"
 #include "mainwindow/start_up.h"
 #include "motion/stock.h"
+#include "platform/numbers.h"
 #include "tests/fakes/fakes.h"
 
 // A machine as it stands after start-up, with a simulation area of 400 by 300 pixels, the Slider at
@@ -22,15 +24,24 @@ class MachineTest : public testing::Test {
     frmMain::ResetToProgramStart();
     frmMain::Form_Load();
     Fakes::PutPicture("/app/tools/tool.bmp", TriangleTool(67, 101));
-    GlobalVariables::SimWidth = 400;
-    GlobalVariables::SimHeight = 300;
-    Graphics::CreateSurface();
+    ShowSimulationAlone(400, 300);
     frmMain::Slider.Value = 10;
     frmMain::mnuToolsPlaySound.Checked = false;
   }
   void TearDown() override {
     Fakes::Verify();
     frmMain::ResetToProgramStart();
+  }
+
+  // With both panes hidden Start leaves the size of the simulation area as it is.
+  static void ShowSimulationAlone(int width, int height) {
+    frmMain::mnuViewTextEditor.Checked = false;
+    frmMain::TextEditor().Visible = false;
+    const double bars =
+        frmMain::Toolbar.Bounds.Get().Height + frmMain::StatusBar.Bounds.Get().Height;
+    frmMain::ScaleWidth = width;
+    frmMain::ScaleHeight = height + RoundToPixel(bars);
+    frmMain::Form_Resize();
   }
 
   static constexpr Colour kToolColour = Rgb(90, 90, 90);

@@ -116,13 +116,13 @@ TEST_F(BlockTest, EveryExecutedRowMovesOnceUnderTheModalFunction) {
   };
   const std::string toStock = "G00 X30 Z2";
   const auto approach = pointsOf({"[BILLET X20 Z40", toStock});
-  EXPECT_EQ(approach + 2, pointsOf({"[BILLET X20 Z40", toStock, "", "N10"}));
-  EXPECT_EQ(approach, pointsOf({"[BILLET X20 Z40", toStock, "G01", "", "G04 P2", "X1 Z-3"}));
+  EXPECT_EQ(approach + 2, pointsOf({"[BILLET X20 Z40", toStock, "N10", ""}));
+  EXPECT_EQ(approach, pointsOf({"[BILLET X20 Z40", toStock, "G01", "N10", "G04 P2", "X1 Z-3"}));
   EXPECT_EQ(20, WordP);
   // The cycle is repeated by rows without a word, from where it ended.
   const auto oneCycle = pointsOf({"[BILLET X20 Z40", toStock, "G90 X16 Z-10"}) - approach;
   EXPECT_EQ(approach + 3 * oneCycle,
-            pointsOf({"[BILLET X20 Z40", toStock, "G90 X16 Z-10", "", "M08"}));
+            pointsOf({"[BILLET X20 Z40", toStock, "G90 X16 Z-10", "M08", ""}));
 }
 
 TEST_F(BlockTest, RegistersCarryOverIntoTheNextRun) {

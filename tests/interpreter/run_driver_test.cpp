@@ -132,7 +132,7 @@ TEST_F(RunDriverTest, ARowEditedAheadIsPlayedAsEditedAndTheRowCountIsReadOnce) {
     frmMain::DebugWindow.SetTextMatrix(3, frmMain::kTextColumn, "T5");
     frmMain::DebugWindow.SetTextMatrix(0, frmMain::kTextColumn, "T9");
   });
-  Play({"[BILLET X20 Z40", "G00 X30 Z2", "", "T1"});
+  Play({"[BILLET X20 Z40", "G00 X30 Z2", "N10", "T1"});
   EXPECT_EQ(5, ToolNumber);
 }
 

@@ -63,8 +63,9 @@ TEST_F(CyclesTest, FacingCycleCutsADiameterAndEndsWhereItBegan) {
 }
 
 TEST_F(CyclesTest, ModalRowsRepeatTheCycleAtANewDepth) {
-  Play({"[BILLET X26 Z20", "G00 X30 Z2", "G90 X24 Z-10", "X22", "X20 R2", "", "Z-5 X18"});
-  EXPECT_EQ(100, RadiusAt(-80)) << "the empty row repeats the last depth without its taper";
+  Play({"[BILLET X26 Z20", "G00 X30 Z2", "G90 X24 Z-10", "X22", "X20 R2", "N10", "Z-5 X18"});
+  EXPECT_EQ(100, RadiusAt(-80))
+      << "a row without a word of its own repeats the last depth without its taper";
   EXPECT_EQ(90, RadiusAt(-30));
   EXPECT_EQ(130, RadiusAt(-101));
 }

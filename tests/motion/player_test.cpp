@@ -70,6 +70,7 @@ TEST_F(PlayerTest, RunToBreakpointPlaysEveryPointAndShowsNone) {
   RunToBreakpoint = kTrue;
   frmMain::mnuToolsPlaySound.Checked = true;
   frmMain::Slider.Value = -10;
+  Fakes::Reset();
   Rapid(13);
   EXPECT_EQ(14, GCodes::PointsPlayed);
   EXPECT_EQ(0, shown_ + Fakes::Yields() +

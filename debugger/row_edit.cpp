@@ -1,0 +1,115 @@
+#include "debugger/row_edit.h"
+
+#include <array>
+#include <limits>
+#include <string>
+#include <string_view>
+
+#include "debugger/debug_grid.h"
+#include "debugger/run_commands.h"
+#include "editor/editor_events.h"
+#include "interpreter/machine.h"
+#include "mainwindow/control_surface.h"
+#include "platform/text.h"
+#include "settings/settings.h"
+
+namespace frmMain {
+
+using GlobalVariables::Settings;
+
+std::int16_t EditRow = 0;
+
+namespace {
+
+constexpr std::int16_t kEnter = 13;
+constexpr std::int16_t kEscape = 27;
+
+constexpr double kTwipsPerPixel = 15;
+// Gap between the edit box and the grid's right edge, in pixels.
+constexpr double kRightMargin = 4;
+
+// The commands that a change of the text may open or close.
+constexpr std::array<std::string_view, 6> kTextCommands = {"Save",  "Print", "Step",
+                                                           "Start", "Pause", "Stop"};
+
+std::string TextOfRows() {
+  std::string text;
+  for (int row = 0; row < DebugWindow.Rows(); ++row) {
+    if (row > 0) text += kLineEnd;
+    text += DebugWindow.TextMatrix(row, kTextColumn);
+  }
+  return text;
+}
+
+// The text goes through empty, so that the change is heard as one that empties the document and one
+// that fills it anew.
+void RewriteEditor() {
+  TextEditor().SetText("");
+  TextEditor().SetText(TextOfRows());
+}
+
+// As RewriteEditor, but the commands stay those of the run, and the change can be saved after it.
+void RewriteEditorDuringRun() {
+  std::array<bool, kTextCommands.size()> states{};
+  for (std::size_t i = 0; i < states.size(); ++i) {
+    states[i] = Toolbar.Buttons(kTextCommands[i]).Enabled;
+  }
+  RewriteEditor();
+  for (std::size_t i = 0; i < states.size(); ++i) EnableCommands(kTextCommands[i], states[i]);
+  SaveWasEnabled = kTrue;
+}
+
+// Places txtDebug over the current cell.
+void PlaceEditBox() {
+  const ControlBounds& grid = DebugWindow.Bounds;
+  const double left = DebugWindow.CellLeft() / kTwipsPerPixel;
+  txtDebug.Bounds = {.Left = left,
+                     .Top = grid.Top + DebugWindow.CellTop() / kTwipsPerPixel,
+                     .Width = grid.Width - left - kRightMargin,
+                     .Height = Settings.DebugRowHeight / kTwipsPerPixel};
+}
+
+void TakeEditOver() {
+  // First, since hiding the box takes the focus from it.
+  txtDebug.Visible = false;
+  if (!HasRow(EditRow)) return;
+  DebugWindow.SetTextMatrix(EditRow, kTextColumn, txtDebug.Text);
+  if (Toolbar.Buttons("Stop").Enabled) {
+    RewriteEditorDuringRun();
+  } else {
+    RewriteEditor();
+  }
+  TextChanged = kFalse;
+}
+
+}  // namespace
+
+void DebugWindow_DblClick() {
+  txtDebug_LostFocus();
+  const int row = DebugWindow.MouseRow;
+  if (!HasRow(row) || row > std::numeric_limits<std::int16_t>::max()) return;
+  EditRow = static_cast<std::int16_t>(row);
+  DebugWindow.Select(EditRow, kTextColumn);
+  txtDebug.Text = DebugWindow.TextMatrix(EditRow, kTextColumn);
+  txtDebug.FontName = Settings.DebugFontName;
+  txtDebug.FontSize = Settings.DebugFontSize;
+  PlaceEditBox();
+  txtDebug.SelStart = static_cast<int>(txtDebug.Text.Get().size());
+  txtDebug.Visible = true;
+}
+
+void txtDebug_KeyUp(std::int16_t keyCode, std::int16_t /*shift*/) {
+  if (!txtDebug.Visible) return;
+  if (keyCode == kEnter) TakeEditOver();
+  if (keyCode == kEscape) txtDebug.Visible = false;
+}
+
+void txtDebug_LostFocus() {
+  if (txtDebug.Visible) TakeEditOver();
+}
+
+void ResetRowEdit() {
+  EditRow = 0;
+}
+
+}  // namespace frmMain

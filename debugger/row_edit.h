@@ -1,0 +1,25 @@
+#pragma once
+
+#include <cstdint>
+
+// The edit of a row in place: txtDebug lies over the row, and what is typed there goes to the row
+// and to the editor's text. It may be open during a run and a pause.
+namespace frmMain {
+
+// The row under edit.
+extern std::int16_t EditRow;
+
+// Opens the edit of the row under the pointer; one that is open is taken over first.
+// Reads MouseRow.
+void DebugWindow_DblClick();
+
+// Enter takes the edit over, Esc drops it. The text is taken as typed.
+void txtDebug_KeyUp(std::int16_t keyCode, std::int16_t shift);
+
+// Takes an open edit over, as Enter does, so that nothing typed is lost. Also for commands that
+// read or replace the program while the edit box may still be open.
+void txtDebug_LostFocus();
+
+void ResetRowEdit();
+
+}  // namespace frmMain
