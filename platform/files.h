@@ -4,15 +4,20 @@
 #include <string>
 #include <string_view>
 
-// Files by path. A path is UTF-8, may use "\" as well as "/", and is then found without regard to
-// case. On failure `reason` says why in words that a user knows, with the file's name.
+// Files by path. A path is UTF-8. One that uses "\" as well as "/" is found without regard to case.
+// On failure `reason` says why in words that a user knows, with the file's name.
 
 // The folder of the program file, which holds tools, sounds, samples and the help. No separator at
 // its end.
 std::string ApplicationFolder();
 
+// The largest file that is read, in bytes; far beyond any program.
+constexpr int kMaxFileSize = 64 * 1024 * 1024;
+
 // All bytes of a file.
 std::optional<std::string> ReadFile(const std::string& path, std::string& reason);
 
-// Replaces a file as a whole or not at all: after a failure the old file is as it was.
+// Replaces a file as a whole or not at all, even if the program is killed in the middle: after a
+// failure the old file is as it was. Permissions stay. Through a link the file that it leads to is
+// replaced, and the link stays.
 bool ReplaceFile(const std::string& path, std::string_view bytes, std::string& reason);

@@ -3,14 +3,16 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 
 #include "platform/qt/paths.h"
 
 namespace {
 
-std::string Reason(const char* what, const QString& path, const QString& why) {
-  return QString("The file \"%1\" can't be %2: %3.").arg(path, what, why).toStdString();
+// Bytes read at a time.
+constexpr qint64 kPartSize = 65'536;
+
+std::string Reason(const QString& path, const QString& why) {
+  return QString("The file \"%1\" can't be read: %2.").arg(path, why).toStdString();
 }
 
 }  // namespace
@@ -23,36 +25,26 @@ std::optional<std::string> ReadFile(const std::string& path, std::string& reason
   const QString resolved = ResolvePath(path);
   QFile file(resolved);
   if (QFileInfo(resolved).isDir()) {
-    reason = Reason("read", resolved, "it is a folder");
+    reason = Reason(resolved, "it is a folder");
     return std::nullopt;
   }
   if (!file.open(QIODevice::ReadOnly)) {
-    reason = Reason("read", resolved, file.errorString());
+    reason = Reason(resolved, file.errorString());
     return std::nullopt;
   }
-  const QByteArray bytes = file.readAll();
+  // Not as large as the file claims to be: a device has no size and no end.
+  QByteArray bytes;
+  for (QByteArray part = file.read(kPartSize); !part.isEmpty() && bytes.size() <= kMaxFileSize;
+       part = file.read(kPartSize)) {
+    bytes += part;
+  }
   if (file.error() != QFileDevice::NoError) {
-    reason = Reason("read", resolved, file.errorString());
+    reason = Reason(resolved, file.errorString());
+    return std::nullopt;
+  }
+  if (bytes.size() > kMaxFileSize) {
+    reason = Reason(resolved, QString("it has more than %1 bytes").arg(kMaxFileSize));
     return std::nullopt;
   }
   return bytes.toStdString();
-}
-
-bool ReplaceFile(const std::string& path, std::string_view bytes, std::string& reason) {
-  const QString resolved = ResolvePath(path);
-  QSaveFile file(resolved);
-  if (!file.open(QIODevice::WriteOnly)) {
-    reason = Reason("written", resolved, file.errorString());
-    return false;
-  }
-  // commit() alone reports success on a full disk and destroys the file: everything must have been
-  // written and flushed before it.
-  const auto size = static_cast<qint64>(bytes.size());
-  const bool written = file.write(bytes.data(), size) == size && file.flush() &&
-                       file.error() == QFileDevice::NoError;
-  const QString writeError = file.errorString();
-  if (!written) file.cancelWriting();
-  if (file.commit()) return true;
-  reason = Reason("written", resolved, written ? file.errorString() : writeError);
-  return false;
 }
