@@ -18,7 +18,8 @@ QString MatchingEntry(const QString& folder, const QString& name) {
 
 QString ResolvePath(const std::string& path) {
   QString given = QString::fromStdString(path);
-  if (QFileInfo::exists(given)) return given;
+  // A path of this system's own is exact: "Part.cnc" and "part.cnc" are two files of the user.
+  if (!given.contains('\\') || QFileInfo::exists(given)) return given;
   QString resolved;
   const QStringList parts = given.replace('\\', '/').split('/');
   for (qsizetype i = 0; i < parts.size(); ++i) {
