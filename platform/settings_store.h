@@ -9,6 +9,7 @@
 std::string GetSetting(std::string_view application, std::string_view section, std::string_view key,
                        std::string_view defaultText = "");
 
-// Creates or replaces the key; it is in the store when the call returns.
+// Creates or replaces the key; it is in the store when the call returns. Where the store can't be
+// written, it is remembered until the program ends.
 void SaveSetting(std::string_view application, std::string_view section, std::string_view key,
                  std::string_view value);
