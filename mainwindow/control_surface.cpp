@@ -23,6 +23,13 @@ GridTable HiddenGrid() {
   return grid;
 }
 
+std::array<RecentFileEntry, 4> NoRecentFiles() {
+  std::array<RecentFileEntry, 4> entries;
+  entries[0].Loaded = true;
+  entries[0].Caption = std::string(kNoRecentFiles);
+  return entries;
+}
+
 }  // namespace
 
 ToolBar::ToolBar() : KeyedItems(kCommandKeys) {
@@ -49,6 +56,7 @@ ToolBar Toolbar;
 MenuEntry mnuFile;
 MenuEntry mnuFileSave;
 MenuEntry mnuFilePrint;
+std::array<RecentFileEntry, 4> mnuFileRecentFiles = NoRecentFiles();
 MenuEntry mnuView;
 MenuEntry mnuViewStatusBar{.Checked = true};
 MenuEntry mnuViewToolBar{.Checked = true};
@@ -67,6 +75,8 @@ StatusBarControl StatusBar;
 ProgressGauge ProgressBar;
 SliderControl Slider;
 PictureBox picSim;
+CommonDialog com;
+Property<std::string_view> ActiveControl;
 GridTable DebugWindow = HiddenGrid();
 TextBox txtDebug;
 Property<ControlBounds> TextEditorBounds;
@@ -147,6 +157,9 @@ void ResetControlSurface() {
                            &mnuToolsPlaySound, &mnuToolBarShowLabels}) {
     *entry = {.Checked = true};
   }
+  mnuFileRecentFiles = NoRecentFiles();
+  com = {};
+  ActiveControl = Property<std::string_view>();
   ProgressBar = {};
   Slider = {};
   picSim = {};

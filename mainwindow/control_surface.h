@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "platform/controls.h"
+#include "platform/dialogs.h"
 #include "platform/grid_table.h"
 #include "platform/rich_text.h"
 
@@ -39,6 +40,10 @@ extern ToolBar Toolbar;
 extern MenuEntry mnuFile;
 extern MenuEntry mnuFileSave;
 extern MenuEntry mnuFilePrint;
+// Caption of the first entry while there is no recent file.
+inline constexpr std::string_view kNoRecentFiles = "Recent Files";
+// Entry k stands for key k of the recent list.
+extern std::array<RecentFileEntry, 4> mnuFileRecentFiles;
 extern MenuEntry mnuView;
 extern MenuEntry mnuViewStatusBar;
 extern MenuEntry mnuViewToolBar;
@@ -73,6 +78,10 @@ extern ProgressGauge ProgressBar;
 // The speed of a run; set by the user, read by PlayPath.
 extern SliderControl Slider;
 extern PictureBox picSim;
+extern CommonDialog com;
+// Name of the control with the focus. Written by the window as the user moves the focus, and by
+// the logic to move it.
+extern Property<std::string_view> ActiveControl;
 
 // Columns of DebugWindow.
 inline constexpr int kLineNumberColumn = 0;

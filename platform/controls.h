@@ -44,6 +44,14 @@ struct MenuEntry {
   Property<bool> Checked = false;
 };
 
+// An entry of a menu that comes and goes.
+struct RecentFileEntry {
+  // The first one always is.
+  Property<bool> Loaded = false;
+  Property<std::string> Caption;
+  Property<bool> Enabled = true;
+};
+
 struct StatusPanel {
   std::string_view Key;
   Property<std::string> Text;
@@ -95,6 +103,8 @@ struct SliderControl : Control {
 struct PictureBox : Control {
   Property<Colour> BackColor = Rgb(255, 255, 255);
   std::function<void(const Raster& surface, const PixelRect& changed)> Blt;
+  // Shows the background alone until the next Blt. The surface keeps its picture.
+  std::function<void()> Cls;
 };
 
 // A text box of one line, hidden at rest. Whoever shows it gives it the focus when it becomes

@@ -38,6 +38,10 @@ int MessageBox(const std::string& text, int style = kOkOnly, const std::string& 
 void SendKeys(const std::string& keys);
 inline constexpr const char* kRightArrowKeys = "{RIGHT}";
 
+// Ends the program with status 0, as soon as the handlers that run have returned and without asking
+// a window again. May be called more than once.
+void EndProgram();
+
 // Flags of sndPlaySoundA.
 constexpr int kSoundAsync = 1;
 constexpr int kSoundLoop = 8;

@@ -58,6 +58,9 @@ void ShowNotification(const std::string& text, int milliseconds, bool modal) {
 // No control has the focus.
 void SendKeys(const std::string& /*keys*/) {}
 
+// It ends when its program has been played.
+void EndProgram() {}
+
 void sndPlaySoundA(const std::string& /*path*/, int /*flags*/) {}
 
 }  // namespace Desktop

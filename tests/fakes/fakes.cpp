@@ -7,6 +7,7 @@
 #include <optional>
 #include <stdexcept>
 
+#include "platform/dialogs.h"
 #include "platform/files.h"
 #include "platform/notifications.h"
 #include "platform/pictures.h"
@@ -25,6 +26,11 @@ struct ExpectedMessage {
   int answer = Desktop::kOk;
 };
 
+struct ExpectedDialog {
+  bool isOpen = false;
+  std::optional<std::string> chosen;
+};
+
 struct World {
   int yields = 0;
   int waits = 0;
@@ -39,6 +45,8 @@ struct World {
   std::vector<std::string> sentKeys;
   std::deque<std::string> keyQueue;
   std::function<void(const std::string&)> atSentKeys;
+  std::deque<ExpectedDialog> dialogs;
+  bool ended = false;
   std::vector<int> sleeps;
   std::vector<std::string> sounds;
   std::map<std::string, Raster> pictures;
@@ -75,6 +83,19 @@ void HandleEvents() {
   if (world.atEachYield) world.atEachYield();
 }
 
+bool AnswerDialog(bool isOpen, CommonDialog& dialog) {
+  if (world.dialogs.empty()) {
+    ADD_FAILURE() << "unexpected file dialog to " << (isOpen ? "open" : "save");
+    return false;
+  }
+  const ExpectedDialog expected = world.dialogs.front();
+  world.dialogs.pop_front();
+  EXPECT_EQ(expected.isOpen, isOpen);
+  if (!expected.chosen) return !dialog.CancelError;
+  dialog.FileName = *expected.chosen;
+  return true;
+}
+
 std::string SettingName(std::string_view section, std::string_view key) {
   return std::string(section) + '/' + std::string(key);
 }
@@ -89,6 +110,7 @@ void Reset() {
 
 void Verify() {
   EXPECT_TRUE(world.messages.empty()) << "never shown: " << world.messages.front().text;
+  EXPECT_TRUE(world.dialogs.empty()) << world.dialogs.size() << " file dialog(s) never shown";
   EXPECT_TRUE(world.atYield.empty()) << "only " << world.yields << " yields happened";
   EXPECT_TRUE(world.atWait.empty())
       << "the run never waited for " << world.atWait.size() << " action(s)";
@@ -135,6 +157,16 @@ void AtSentKeys(std::function<void(const std::string&)> reaction) {
   world.atSentKeys = std::move(reaction);
 }
 
+void ExpectOpenDialog(const std::optional<std::string>& chosen) {
+  world.dialogs.push_back({true, chosen});
+}
+void ExpectSaveDialog(const std::optional<std::string>& chosen) {
+  world.dialogs.push_back({false, chosen});
+}
+bool ProgramEnded() {
+  return world.ended;
+}
+
 const std::vector<int>& Sleeps() {
   return world.sleeps;
 }
@@ -147,6 +179,9 @@ void PutPicture(const std::string& path, const Raster& picture) {
 }
 void PutFile(const std::string& path, const std::string& bytes) {
   world.files[Normalized(path)] = bytes;
+}
+void RemoveFile(const std::string& path) {
+  world.files.erase(Normalized(path));
 }
 std::string FileBytes(const std::string& path) {
   const auto file = world.files.find(Normalized(path));
@@ -211,12 +246,24 @@ void SendKeys(const std::string& keys) {
   world.keyQueue.push_back(keys);
 }
 
+void EndProgram() {
+  world.ended = true;
+}
+
 void sndPlaySoundA(const std::string& path, int flags) {
   EXPECT_EQ(kSoundAsync | kSoundLoop, flags);
   world.sounds.push_back(path);
 }
 
 }  // namespace Desktop
+
+bool CommonDialog::ShowOpen() {
+  return AnswerDialog(true, *this);
+}
+
+bool CommonDialog::ShowSave() {
+  return AnswerDialog(false, *this);
+}
 
 std::string GetSetting(std::string_view application, std::string_view section, std::string_view key,
                        std::string_view defaultText) {

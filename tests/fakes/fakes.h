@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -59,6 +60,14 @@ const std::vector<Message>& Messages();
 const std::vector<std::string>& SentKeys();
 void AtSentKeys(std::function<void(const std::string&)> reaction);
 
+// The next file dialog must be one to open, or to save, and this path is chosen; without one the
+// dialog is cancelled.
+void ExpectOpenDialog(const std::optional<std::string>& chosen);
+void ExpectSaveDialog(const std::optional<std::string>& chosen);
+
+// True once the program has been told to end.
+bool ProgramEnded();
+
 // Milliseconds of every Sleep, and paths of every sound, in order.
 const std::vector<int>& Sleeps();
 const std::vector<std::string>& Sounds();
@@ -67,6 +76,7 @@ const std::vector<std::string>& Sounds();
 // is "/app".
 void PutPicture(const std::string& path, const Raster& picture);
 void PutFile(const std::string& path, const std::string& bytes);
+void RemoveFile(const std::string& path);
 // Empty when there is no such file.
 std::string FileBytes(const std::string& path);
 // Every later ReplaceFile fails with this reason, until it is empty.

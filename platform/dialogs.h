@@ -1,0 +1,26 @@
+#pragma once
+
+#include <string>
+
+// The common dialog control. Set its members, show it, read them. The linker picks the bodies of
+// the two routines.
+struct CommonDialog {
+  // Overwrite prompt (2), no change of directory (8), path must exist (2048), file must exist
+  // (4096).
+  static constexpr int kFileFlags = 2 + 8 + 2048 + 4096;
+
+  // Captions and patterns in turn, divided by "|".
+  std::string Filter;
+  int Flags = 0;
+  // The folder in which the first dialog opens.
+  std::string InitDir;
+  // The full path that was chosen.
+  std::string FileName;
+  // With it a Cancel counts as an error: the routine returns false.
+  bool CancelError = false;
+
+  // Both show a file dialog modally and return true when FileName may be used: it is the file
+  // chosen, or unchanged when a Cancel is no error.
+  bool ShowOpen();
+  bool ShowSave();
+};
