@@ -2,6 +2,7 @@
 
 #include "debugger/debug_grid.h"
 #include "debugger/row_edit.h"
+#include "editor/documents.h"
 #include "editor/editor_events.h"
 #include "editor/reformat.h"
 #include "editor/syntax_check.h"
@@ -75,7 +76,7 @@ void PlayProgram() {
                      kDefaultToolHeight);
   EnableCommands("Pause,Stop", true);
   ShowRows();
-  // The user may have pressed Stop while the view changed.
+  // The user may have pressed Stop, or closed the window, while the view changed.
   if (GlobalVariables::StopRequested == kFalse) PlayRows();
   mnuRunStop_Click();
   runActive = false;
@@ -96,7 +97,7 @@ void StartOrResume(bool toBreakpoint) {
     Resume();
     return;
   }
-  if (runActive || Closing) return;
+  if (runActive || WindowClosed != kFalse) return;
   ReformatText(TextEditor());
   if (CheckSyntax(TextEditor())) return;
   if (!toBreakpoint) GlobalVariables::RunToBreakpoint = kFalse;
@@ -104,8 +105,6 @@ void StartOrResume(bool toBreakpoint) {
 }
 
 }  // namespace
-
-bool Closing = false;
 
 void mnuRunStart_Click() {
   StartOrResume(false);
@@ -142,16 +141,8 @@ void mnuRunRunToBreakpoint_Click() {
   StartOrResume(true);
 }
 
-bool CloseDuringRun() {
-  if (!runActive) return false;
-  Closing = true;
-  mnuRunStop_Click();
-  return true;
-}
-
 void ResetRunCommands() {
   SaveWasEnabled = kFalse;
-  Closing = false;
   runActive = false;
 }
 

@@ -31,14 +31,6 @@ void mnuRunStepInto_Click();
 // flag.
 void mnuRunRunToBreakpoint_Click();
 
-// Called when the window is asked to close, before anything else. With no run on the stack it does
-// nothing and returns false. Else it ends the run, sets Closing and returns true: the window stays,
-// and whoever called mnuRunStart_Click or mnuRunRunToBreakpoint_Click asks again after the return.
-bool CloseDuringRun();
-
-// The window has been closed during a run: no further run starts, and no question is asked.
-extern bool Closing;
-
 // Flag: the state of the "Save" command at Start, given back at Stop. An edit of a row during the
 // run sets it.
 extern std::int16_t SaveWasEnabled;

@@ -2,6 +2,7 @@
 
 #include "debugger/row_edit.h"
 #include "debugger/run_commands.h"
+#include "editor/documents.h"
 #include "editor/editor_events.h"
 #include "interpreter/machine.h"
 #include "mainwindow/control_surface.h"
@@ -21,6 +22,7 @@ void ResetToProgramStart() {
   ResetRowEdit();
   ResetLayout();
   TextChanged = kFalse;
+  ResetDocuments();
   ModCNC::ResetMachine();
   Graphics::ResetStock();
   GCodes::ResetPlayer();

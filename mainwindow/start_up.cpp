@@ -1,10 +1,15 @@
 #include "mainwindow/start_up.h"
 
+#include <string>
 #include <string_view>
 
 #include "debugger/debug_grid.h"
+#include "editor/documents.h"
+#include "editor/recent_files.h"
 #include "mainwindow/control_surface.h"
 #include "mainwindow/view_toggles.h"
+#include "platform/files.h"
+#include "platform/numbers.h"
 #include "platform/settings_store.h"
 #include "settings/settings.h"
 
@@ -27,10 +32,14 @@ constexpr ViewOption kViewOptions[] = {
     {"DebugWindow", false, &mnuViewDebugWindow},
 };
 
-// A stored text that is no flag counts as absent.
+// The words "True" and "False", or a number, of which 0 is false. Anything else counts as absent.
 bool StoredMark(std::string_view section, std::string_view key, bool byDefault) {
-  const bool other = !byDefault;
-  return GetSetting(kApplication, section, key) == FlagText(other) ? other : byDefault;
+  const std::string text = GetSetting(kApplication, section, key);
+  for (const bool flag : {true, false}) {
+    if (text == FlagText(flag)) return flag;
+  }
+  const auto number = ParseNumber(text);
+  return number ? *number != 0 : byDefault;
 }
 
 void ApplyViewOptions() {
@@ -50,13 +59,23 @@ void ApplyViewOptions() {
 void Form_Load() {
   GlobalVariables::LoadSettings();
   ApplySettings();
+  BuildRecentFilesMenu();
   EnableCommands("Save,Print,Step,Start,Pause,Stop", false);
-  StatusBar.Panels("FileName").Text = "Untitled";
+  StatusBar.Panels("FileName").Text = kUntitled;
+  com.InitDir = ApplicationFolder();
+  if (mnuFileRecentFiles[0].Enabled && GlobalVariables::Settings.OpenLastFile != 0) {
+    mnuFileRecentFiles_Click(0);
+  }
 }
 
 void ApplySettings() {
+  const GlobalVariables::SettingsRecord& settings = GlobalVariables::Settings;
+  TextEditor().BackColor = settings.EditorBackColor;
+  TextEditor().Font.Name = settings.EditorFontName;
+  TextEditor().SetSelFontSize(settings.EditorFontSize);
+  TextEditor().SetSelBold(settings.EditorFontBold != 0);
   ApplyDebugWindowLayout();
-  picSim.BackColor = GlobalVariables::Settings.SimBackColor;
+  picSim.BackColor = settings.SimBackColor;
   mnuToolBarShowLabels.Checked = !StoredMark("Toolbar", "ShowLabels", true);
   mnuToolBarShowLabels_Click();
   ApplyViewOptions();

@@ -2,8 +2,8 @@
 
 namespace frmMain {
 
-// What the main window does as it loads: settings and view state to the controls, then the commands
-// that need a program closed.
+// What the main window does as it loads: settings and view state to the controls, the recent files,
+// the commands that need a program closed, and the last file if the settings say so.
 // Yields.
 void Form_Load();
 

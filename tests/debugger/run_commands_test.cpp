@@ -214,18 +214,4 @@ TEST_F(RunCommandsTest, ARunThatIsLeavingIsNotEnteredAgain) {
   EXPECT_EQ(80, RadiusAt(-20));
 }
 
-TEST_F(RunCommandsTest, ClosingTheWindowEndsTheRunFirst) {
-  Show(program);
-  EXPECT_FALSE(CloseDuringRun());
-  Fakes::AtYield(3, mnuRunPause_Click);
-  Fakes::AtWait([] { EXPECT_TRUE(CloseDuringRun()); });
-  mnuRunStart_Click();
-  EXPECT_TRUE(Closing);
-  EXPECT_FALSE(CloseDuringRun());
-  EXPECT_EQ(100, RadiusAt(-20));
-  const int yields = Fakes::Yields();
-  mnuRunStart_Click();
-  EXPECT_EQ(yields, Fakes::Yields()) << "no run starts in a window that closes";
-}
-
 }  // namespace

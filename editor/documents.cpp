@@ -1,0 +1,167 @@
+#include "editor/documents.h"
+
+#include <cstddef>
+#include <string>
+
+#include "debugger/debug_grid.h"
+#include "editor/colouring.h"
+#include "editor/editor_events.h"
+#include "editor/program_file.h"
+#include "editor/recent_files.h"
+#include "interpreter/machine.h"
+#include "mainwindow/control_surface.h"
+#include "mainwindow/view_toggles.h"
+#include "platform/desktop.h"
+
+namespace frmMain {
+
+std::int16_t WindowClosed = kFalse;
+
+namespace {
+
+constexpr const char* kErrorTitle = "Error!";
+constexpr const char* kFilter = "CNC Code Files|*.cnc|All Files|*.*";
+
+void ShowError(const std::string& reason) {
+  Desktop::MessageBox(reason, Desktop::kCritical, kErrorTitle);
+}
+
+bool IsModified() {
+  return Toolbar.Buttons("Save").Enabled;
+}
+
+const std::string& DocumentName() {
+  return StatusBar.Panels("FileName").Text;
+}
+
+// False when the operation that asks has to stop.
+bool MayDropDocument() {
+  if (!IsModified()) return true;
+  const int answer =
+      Desktop::MessageBox("Save changes to " + DocumentName() + "?",
+                          Desktop::kYesNoCancel + Desktop::kQuestion, "Save Changes?");
+  if (answer == Desktop::kCancel) return false;
+  if (answer == Desktop::kYes) {
+    mnuFileSave_Click();
+    return !IsModified();
+  }
+  return true;
+}
+
+void PrepareFileDialog() {
+  com.CancelError = true;
+  com.Flags = CommonDialog::kFileFlags;
+  com.Filter = kFilter;
+}
+
+void ShowName(const std::string& path) {
+  StatusBar.Panels("FileName").Text = GetFileName(path);
+}
+
+void FillRows() {
+  FillDebugWindow();
+  TextChanged = kFalse;
+}
+
+}  // namespace
+
+void mnuFileNew_Click() {
+  if (!MayDropDocument()) return;
+  TextEditor().SetText("");
+  DocumentIsUtf8 = false;
+  DebugWindow.SetRows(1);
+  if (!mnuViewTextEditor.Checked) mnuViewTextEditor_Click();
+  StatusBar.Panels("FileName").Text = kUntitled;
+  EnableCommands("Save,Print,Start,Step,Pause,Stop", false);
+  if (picSim.Cls) picSim.Cls();
+  ActiveControl = "TextEditor";
+}
+
+void mnuFileOpen_Click() {
+  if (!MayDropDocument()) return;
+  PrepareFileDialog();
+  if (!com.ShowOpen()) return;
+  std::string reason;
+  if (!LoadFile(com.FileName, reason)) {
+    ShowError(reason);
+    return;
+  }
+  ColourText();
+  EnableCommands("Start,Print,Step", true);
+  ShowName(com.FileName);
+  UpdateRecentFiles(com.FileName, -1);
+  FillRows();
+}
+
+void mnuFileRecentFiles_Click(std::int16_t index) {
+  if (!MayDropDocument()) return;
+  const std::string path = RecentFilePath(index);
+  std::string reason;
+  if (!LoadFile(path, reason)) {
+    Desktop::MessageBox(reason, Desktop::kCritical);
+    return;
+  }
+  ColourText();
+  ShowName(path);
+  EnableCommands("Start,Print,Step", true);
+  EnableCommands("Save", false);
+  UpdateRecentFiles(mnuFileRecentFiles.at(static_cast<std::size_t>(index)).Caption, index);
+  FillRows();
+}
+
+void mnuFileSave_Click() {
+  if (DocumentName() == kUntitled) {
+    mnuFileSaveAS_Click();
+    return;
+  }
+  const std::string path = RecentFilePath(0);
+  // A second window that has opened another file shares the list; its file must not be hit.
+  if (GetFileName(path) != DocumentName()) {
+    ShowError("The list of recent files no longer begins with \"" + DocumentName() +
+              "\"; another Turnbay may have opened a program. Choose Save As to name the file.");
+    return;
+  }
+  std::string reason;
+  if (!SaveFile(path, reason)) {
+    ShowError(reason);
+    return;
+  }
+  EnableCommands("Save", false);
+}
+
+// Whatever fails here ends it silently: "Save" stays enabled, which the save question looks at.
+void mnuFileSaveAS_Click() {
+  PrepareFileDialog();
+  if (!com.ShowSave()) return;
+  std::string reason;
+  if (!SaveFile(com.FileName, reason)) return;
+  EnableCommands("Save", false);
+  ShowName(com.FileName);
+  UpdateRecentFiles(com.FileName, -1);
+}
+
+void mnuFileExit_Click() {
+  std::int16_t cancel = kFalse;
+  Form_QueryUnload(cancel, kClosedByProgram);
+}
+
+void Form_QueryUnload(std::int16_t& cancel, std::int16_t /*unloadMode*/) {
+  if (MayDropDocument()) {
+    Form_Unload();
+  } else {
+    cancel = kTrue;
+  }
+}
+
+void Form_Unload() {
+  WindowClosed = kTrue;
+  GlobalVariables::StopRequested = kTrue;
+  Desktop::EndProgram();
+}
+
+void ResetDocuments() {
+  WindowClosed = kFalse;
+  DocumentIsUtf8 = false;
+}
+
+}  // namespace frmMain

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <cstdint>
+
+// The life of the one document that is edited at a time. Its text is that of TextEditor, its name
+// the panel "FileName", its path key "0" of the recent list, its modified mark the Enabled of the
+// button "Save".
+namespace frmMain {
+
+// What the panel "FileName" shows for a document without a file; the only sign of it.
+inline constexpr const char* kUntitled = "Untitled";
+
+// Why the window closes.
+inline constexpr std::int16_t kClosedByUser = 0;
+inline constexpr std::int16_t kClosedByProgram = 1;
+
+// Flag: the window has closed, and the process ends as soon as the handlers that run, and a run
+// with them, have returned. Written by Form_Unload.
+extern std::int16_t WindowClosed;
+
+// New, Open, a recent file and closing ask first whether changes are to be saved; Cancel, or a save
+// that didn't happen, ends them.
+void mnuFileNew_Click();
+void mnuFileOpen_Click();
+// The entry `index` of mnuFileRecentFiles.
+void mnuFileRecentFiles_Click(std::int16_t index);
+void mnuFileSave_Click();
+void mnuFileSaveAS_Click();
+// Closes the window, as its close box does.
+void mnuFileExit_Click();
+
+// Asked before the window closes: sets `cancel` when it has to stay, else unloads it.
+void Form_QueryUnload(std::int16_t& cancel, std::int16_t unloadMode);
+// Asks a run to stop and ends the process.
+void Form_Unload();
+
+void ResetDocuments();
+
+}  // namespace frmMain

@@ -1,0 +1,59 @@
+#include "editor/program_file.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <utility>
+
+#include "editor/colouring.h"
+#include "mainwindow/control_surface.h"
+#include "platform/code_page.h"
+#include "platform/files.h"
+#include "platform/numbers.h"
+#include "platform/text.h"
+
+namespace frmMain {
+
+bool DocumentIsUtf8 = false;
+
+namespace {
+
+std::string TooLong(const std::string& path, const std::string& what, std::size_t count,
+                    std::size_t limit) {
+  return "The file \"" + path + "\" can't be opened: it has " +
+         DecimalText(static_cast<int>(count)) + ' ' + what + ", and a program can have at most " +
+         DecimalText(static_cast<int>(limit)) + '.';
+}
+
+// Empty when the text isn't too long.
+std::string TooLongReason(const std::string& path, const std::string& text) {
+  const auto lineEnds = std::count(text.begin(), text.end(), '\n');
+  const std::size_t rows = static_cast<std::size_t>(lineEnds) + 1;
+  if (rows > kMaxProgramRows) return TooLong(path, "lines", rows, kMaxProgramRows);
+  if (text.size() > kMaxColouredLength) {
+    return TooLong(path, "characters (a line end is two)", text.size(), kMaxColouredLength);
+  }
+  return {};
+}
+
+}  // namespace
+
+bool LoadFile(const std::string& path, std::string& reason) {
+  const auto bytes = ReadFile(path, reason);
+  if (!bytes) return false;
+  const DecodedText decoded = DecodeProgram(*bytes);
+  std::string text = WithCrLf(decoded.text);
+  if (std::string tooLong = TooLongReason(path, text); !tooLong.empty()) {
+    reason = std::move(tooLong);
+    return false;
+  }
+  TextBuffer().SetText(std::move(text));
+  DocumentIsUtf8 = decoded.isUtf8;
+  return true;
+}
+
+bool SaveFile(const std::string& path, std::string& reason) {
+  const std::string& text = TextEditor().Text();
+  return ReplaceFile(path, DocumentIsUtf8 ? CodePageToUtf8(text) : text, reason);
+}
+
+}  // namespace frmMain
