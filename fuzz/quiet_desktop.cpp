@@ -8,6 +8,7 @@
 #include "debugger/run_commands.h"
 #include "fuzz/bodies.h"
 #include "platform/desktop.h"
+#include "platform/dialogs.h"
 #include "platform/files.h"
 #include "platform/notifications.h"
 #include "platform/pictures.h"
@@ -97,11 +98,21 @@ void ShowNotification(const std::string& /*text*/, int /*milliseconds*/, bool mo
   if (modal) Yield();
 }
 
+void EndProgram() {}
+
 void SendKeys(const std::string& /*keys*/) {}
 
 void sndPlaySoundA(const std::string& /*path*/, int /*flags*/) {}
 
 }  // namespace Desktop
+
+// Nobody chooses a file.
+bool CommonDialog::ShowOpen() {
+  return false;
+}
+bool CommonDialog::ShowSave() {
+  return false;
+}
 
 std::string GetSetting(std::string_view /*application*/, std::string_view section,
                        std::string_view key, std::string_view defaultText) {
