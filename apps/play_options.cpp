@@ -47,7 +47,11 @@ ParsedOptions ParsePlayOptions(const QStringList& arguments) {
   const QCommandLineOption report("report", "Write a report; - is standard output.", "FILE.json");
   const QCommandLineOption runToBreakpoint("run-to-breakpoint",
                                            "Play without drawing until a break point.");
-  parser.addOptions({help, version, size, tools, picture, profile, report, runToBreakpoint});
+  const QCommandLineOption check("check", "Only bring the text into its layout and check it.");
+  const QCommandLineOption reformat("reformat",
+                                    "Print the program in its layout on standard output.");
+  parser.addOptions(
+      {check, reformat, help, version, size, tools, picture, profile, report, runToBreakpoint});
   parser.addPositionalArgument("PROGRAM", "The part program to play.");
 
   if (!parser.parse(arguments)) return WrongUsage(parser.errorText());
@@ -67,6 +71,8 @@ ParsedOptions ParsePlayOptions(const QStringList& arguments) {
   options.profile = parser.value(profile).toStdString();
   options.report = parser.value(report).toStdString();
   options.runToBreakpoint = parser.isSet(runToBreakpoint);
+  options.check = parser.isSet(check);
+  options.reformat = parser.isSet(reformat);
   options.program = programs.first().toStdString();
   return {options, {}, 0};
 }

@@ -18,6 +18,10 @@ struct PlayOptions {
   // "-" is standard output.
   std::string report;
   bool runToBreakpoint = false;
+  // Bring the text into its layout and check it; don't play.
+  bool check = false;
+  // Print the text in its layout; don't play.
+  bool reformat = false;
   std::string program;
 };
 

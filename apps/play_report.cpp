@@ -71,6 +71,14 @@ QJsonArray NotificationsJson() {
   return array;
 }
 
+// Where the fault is in the text as played; null when there is none.
+QJsonValue CheckJson(bool hasFault) {
+  if (!hasFault) return QJsonValue::Null;
+  const RichText& editor = frmMain::TextEditor();
+  return QJsonObject{{"SelStart", static_cast<qint64>(editor.SelStart())},
+                     {"SelLength", static_cast<qint64>(editor.SelLength())}};
+}
+
 QJsonObject RegistersJson() {
   QJsonObject object;
   for (const NamedRegister& entry : kRegisters) object[entry.name] = *entry.value;
@@ -124,7 +132,7 @@ QByteArray ReportJson(const PlayOutcome& outcome) {
   const QJsonObject report{
       {"outcome", ToQt(outcome.outcome)},
       {"messages", MessagesJson()},
-      {"check", QJsonValue::Null},
+      {"check", CheckJson(outcome.hasFault)},
       {"text", ToQt(CodePageToUtf8(outcome.text))},
       {"notifications", NotificationsJson()},
       {"registers", RegistersJson()},

@@ -9,9 +9,11 @@
 
 struct PlayOutcome {
   // "done", "syntax error" or "no billet".
-  std::string outcome;
+  std::string outcome = "done";
   // The program as played.
   std::string text;
+  // A fault of the text was found and is selected in the editor.
+  bool hasFault = false;
   // How often a paused run was resumed.
   int resumes = 0;
 };

@@ -5,11 +5,15 @@
 #include <string>
 #include <string_view>
 #include <unistd.h>
-#include <vector>
 
 #include "apps/play_options.h"
 #include "apps/play_report.h"
 #include "debugger/run_commands.h"
+#include "editor/colouring.h"
+#include "editor/program_file.h"
+#include "editor/reformat.h"
+#include "editor/source_place.h"
+#include "editor/syntax_check.h"
 #include "interpreter/machine.h"
 #include "mainwindow/control_surface.h"
 #include "mainwindow/layout.h"
@@ -20,7 +24,6 @@
 #include "platform/files.h"
 #include "platform/numbers.h"
 #include "platform/settings_store.h"
-#include "platform/text.h"
 #include "platform/windowless/windowless.h"
 #include "settings/settings.h"
 #include "toollib/tool_folder.h"
@@ -31,39 +34,38 @@ constexpr int kPlayed = 0;
 constexpr int kNotPlayable = 1;
 constexpr int kFileTrouble = 2;
 
-constexpr int kMaxRows = 32'767;
-
 int resumes = 0;
 
 void SayTrouble(const std::string& what) {
   std::fprintf(stderr, "turnbay-play: %s\n", what.c_str());
 }
 
-bool FillRows(const std::string& text) {
-  const std::vector<std::string_view> lines = Split(text, kLineEnd);
-  if (lines.size() > kMaxRows) return false;
-  frmMain::DebugWindow.SetRows(static_cast<int>(lines.size()));
-  for (std::size_t i = 0; i < lines.size(); ++i) {
-    frmMain::DebugWindow.SetTextMatrix(static_cast<int>(i), frmMain::kTextColumn,
-                                       std::string(lines[i]));
+// With every other view off the simulation area is as large as the window, and stays so.
+void ShowSimulationAlone() {
+  for (const std::string_view view : {"Toolbar", "StatusBar", "TextEditor", "DebugWindow"}) {
+    SaveSetting(GlobalVariables::kApplication, "ViewOptions", view, frmMain::FlagText(false));
   }
-  return true;
+}
+
+void StartUp(const PlayOptions& options) {
+  ShowSimulationAlone();
+  frmMain::ScaleWidth = options.width;
+  frmMain::ScaleHeight = options.height;
+  frmMain::Form_Load();
+  frmMain::Form_Resize();
+  GlobalVariables::SetToolFolder(options.tools);
+  frmMain::Slider.Value = SliderControl::kMax;
+  frmMain::mnuToolsPlaySound.Checked = false;
 }
 
 bool LoadProgram(const std::string& path) {
   std::string reason;
-  const auto bytes = ReadFile(path, reason);
-  if (!bytes) {
+  if (!frmMain::LoadFile(path, reason)) {
     SayTrouble(reason);
     return false;
   }
-  const std::string text = WithCrLf(DecodeProgram(*bytes).text);
-  if (!FillRows(text)) {
-    SayTrouble("The file \"" + path + "\" has more than " + DecimalText(kMaxRows) +
-               " lines, the most that a run can play.");
-    return false;
-  }
-  frmMain::TextEditor().SetText(text);
+  frmMain::ColourText();
+  frmMain::EnableCommands("Start,Print,Step", true);
   return true;
 }
 
@@ -76,46 +78,50 @@ void ShowProgress(int row) {
   std::fprintf(stderr, "\rrow %d of %d", row, frmMain::ProgressBar.Max.Get());
 }
 
-// With every other view off the simulation area is as large as the window, and stays so.
-void ShowSimulationAlone() {
-  for (const std::string_view view : {"Toolbar", "StatusBar", "TextEditor", "DebugWindow"}) {
-    SaveSetting(GlobalVariables::kApplication, "ViewOptions", view, frmMain::FlagText(false));
-  }
-}
-
-void Play(const PlayOptions& options) {
-  ShowSimulationAlone();
-  frmMain::ScaleWidth = options.width;
-  frmMain::ScaleHeight = options.height;
-  frmMain::Form_Load();
-  frmMain::Form_Resize();
-  GlobalVariables::SetToolFolder(options.tools);
-  frmMain::Slider.Value = SliderControl::kMax;
-  frmMain::mnuToolsPlaySound.Checked = false;
+// Returns false when the text has a fault, so that no run began.
+bool Play(bool runToBreakpoint) {
   Windowless::SetHooks({}, ResumeRun);
   const bool showsProgress = isatty(STDERR_FILENO) != 0;
   if (showsProgress) frmMain::ProgressBar.Value.Watch(ShowProgress);
-  frmMain::EnableCommands("Start", true);
-  if (options.runToBreakpoint) {
+  if (runToBreakpoint) {
     frmMain::mnuRunRunToBreakpoint_Click();
   } else {
     frmMain::mnuRunStart_Click();
   }
   if (showsProgress) std::fputc('\n', stderr);
+  // Every run ends with a Stop, and nothing else has asked for one.
+  return GlobalVariables::StopRequested == kTrue;
 }
 
-// Where the billet line stands, or should stand, as LINE:COLUMN.
-std::string BilletPlace(const std::string& text) {
+void PrintProgram() {
+  const std::string& text = frmMain::TextEditor().Text();
+  const std::string bytes = frmMain::DocumentIsUtf8 ? CodePageToUtf8(text) : text;
+  std::fwrite(bytes.data(), 1, bytes.size(), stdout);
+}
+
+// Only what --reformat and --check ask for. Returns false when the text has a fault.
+bool ReformatAndCheck(const PlayOptions& options) {
+  RichText& editor = frmMain::TextEditor();
+  frmMain::ReformatText(editor);
+  if (options.reformat) PrintProgram();
+  return !options.check || !frmMain::CheckSyntax(editor);
+}
+
+// Tells where in the file the last message belongs. `offset` counts in the text as played.
+void SayPlace(const PlayOptions& options, std::string_view source, std::size_t offset) {
+  const frmMain::TextPlace place =
+      frmMain::FindSourcePlace(source, frmMain::TextEditor().Text(), offset);
+  std::fprintf(stderr, "%s:%d:%d: %s\n", options.program.c_str(), place.line, place.column,
+               Windowless::Messages().back().text.c_str());
+}
+
+// Where the billet line stands, or should stand.
+std::size_t BilletOffset() {
   const std::ptrdiff_t found = frmMain::TextEditor().Find("[BILLET");
-  if (found < 0) return "1:1";
-  const std::string before = text.substr(0, static_cast<std::size_t>(found));
-  const std::vector<std::string_view> lines = Split(before, kLineEnd);
-  return DecimalText(static_cast<int>(lines.size())) + ':' +
-         DecimalText(static_cast<int>(lines.back().size()) + 1);
+  return found < 0 ? 0 : static_cast<std::size_t>(found);
 }
 
 bool WriteFile(const std::string& path, std::string_view bytes) {
-  if (path.empty()) return true;
   if (path == "-") {
     return std::fwrite(bytes.data(), 1, bytes.size(), stdout) == bytes.size() &&
            std::fflush(stdout) == 0;
@@ -150,18 +156,24 @@ int main(int argc, char** argv) {
     return parsed.exitStatus;
   }
   const PlayOptions& options = *parsed.options;
+  StartUp(options);
   if (!LoadProgram(options.program)) return kFileTrouble;
-  Play(options);
+  const std::string source = frmMain::TextEditor().Text();
 
-  // Every run that found its billet has made a profile.
-  const bool hasBillet = !Graphics::StockProfile.empty();
-  const std::string text = frmMain::TextEditor().Text();
-  if (!hasBillet) {
-    std::fprintf(stderr, "%s:%s: Billet Size Not Found\n", options.program.c_str(),
-                 BilletPlace(text).c_str());
+  const bool isToPlay = !options.check && !options.reformat;
+  PlayOutcome outcome;
+  outcome.hasFault = isToPlay ? !Play(options.runToBreakpoint) : !ReformatAndCheck(options);
+  // Every run that finds its billet makes a profile.
+  const bool lacksBillet = isToPlay && !outcome.hasFault && Graphics::StockProfile.empty();
+  if (outcome.hasFault) {
+    outcome.outcome = "syntax error";
+    SayPlace(options, source, frmMain::TextEditor().SelStart());
+  } else if (lacksBillet) {
+    outcome.outcome = "no billet";
+    SayPlace(options, source, BilletOffset());
   }
-  if (!WriteResults(options, {hasBillet ? "done" : "no billet", text, resumes})) {
-    return kFileTrouble;
-  }
-  return hasBillet ? kPlayed : kNotPlayable;
+  outcome.text = frmMain::TextEditor().Text();
+  outcome.resumes = resumes;
+  if (!WriteResults(options, outcome)) return kFileTrouble;
+  return outcome.hasFault || lacksBillet ? kNotPlayable : kPlayed;
 }

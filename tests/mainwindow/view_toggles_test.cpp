@@ -91,7 +91,7 @@ TEST_F(ViewTogglesTest, StartUpBringsTheStoredViewsBack) {
       {"", "", "", "", "", "editor", "True", true, true},
       {"True", "False", "False", "True", "True", "grid", "True", true, false},
       {"False", "True", "False", "False", "False", "neither", "False", false, true},
-      {"0", "yes", "", "1", "?", "editor", "True", true, true},
+      {"0", "yes", "", "1", "?", "editor", "True", false, true},
       // The program ended between the two writes of a toggle.
       {"", "", "True", "True", "", "editor", "True", true, true},
   };
