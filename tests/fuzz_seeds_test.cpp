@@ -2,6 +2,7 @@
 #include <fstream>
 #include <gtest/gtest.h>
 #include <iterator>
+#include <ostream>
 #include <string>
 
 #include "fuzz/bodies.h"
@@ -19,6 +20,10 @@ struct Target {
   // What at least one of the seeds must reach.
   bool (*reached)();
 };
+
+void PrintTo(const Target& target, std::ostream* out) {
+  *out << target.corpus;
+}
 
 class FuzzSeedsTest : public testing::TestWithParam<Target> {};
 

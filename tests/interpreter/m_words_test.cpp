@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <gmock/gmock.h>
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -52,6 +53,10 @@ struct FunctionCase {
   const char* atNotification;
   const char* panels;
 };
+
+void PrintTo(const FunctionCase& function, std::ostream* out) {
+  *out << function.word;
+}
 
 class MFunctionTest : public MWordsTest, public testing::WithParamInterface<FunctionCase> {};
 
@@ -178,6 +183,10 @@ struct FaultCase {
   const char* description;
   const char* message;
 };
+
+void PrintTo(const FaultCase& fault, std::ostream* out) {
+  *out << fault.name;
+}
 
 class ToolFaultTest : public MWordsTest, public testing::WithParamInterface<FaultCase> {};
 
