@@ -18,7 +18,6 @@ from tool_drawing import gradient, rgb
 # Fills are light and outlines dark, so that each shape shows on any theme.
 PAPER = (("#ffffff", "#f4f6f8", "#dbe1e7"), "#566270")
 STEEL_PAINT = (("#eef1f4", "#b9c2cb", "#8d97a3"), "#414b57")
-DARK_STEEL_PAINT = (("#8d97a3", "#66717d"), "#363f4a")
 GOLD_PAINT = (("#ffe9a0", "#f3c64e", "#d9982a"), "#8a5c10")
 GEAR_PAINT = (("#eef1f4", "#c2cad2", "#9aa5b0"), "#5a6672")
 DEEP_GOLD_PAINT = (("#e6b548", "#c4882a"), "#7a4f0c")
