@@ -15,12 +15,6 @@ class ControlSurfaceTest : public MachineTest {
   }
 };
 
-TEST_F(ControlSurfaceTest, AfterLoadingThreeCommandsAreOpen) {
-  EXPECT_EQ("New Open Options ", OpenCommands());
-  EXPECT_FALSE(frmMain::mnuRunStart.Enabled);
-  EXPECT_EQ("Untitled", frmMain::StatusBar.Panels("FileName").Text.Get());
-}
-
 TEST_F(ControlSurfaceTest, SixCommandsMoveTheirMenuEntryAsWell) {
   frmMain::EnableCommands("Save,Print,Start,Pause,Stop,Step", true);
   for (MenuEntry* entry : {&frmMain::mnuFileSave, &frmMain::mnuFilePrint, &frmMain::mnuRunStart,
@@ -47,12 +41,6 @@ TEST_F(ControlSurfaceTest, AWatcherHearsOfRealChangesOnlyAndButtonsFirst) {
   frmMain::EnableCommands("Step", true);
   frmMain::EnableCommands("Step,Step", true);
   EXPECT_EQ((std::vector<std::string>{"button on", "menu on"}), heard);
-}
-
-TEST_F(ControlSurfaceTest, FindIgnoresCase) {
-  frmMain::TextEditor().SetText("G00\r\n[Billet");
-  EXPECT_EQ(5, frmMain::TextEditor().Find("[BILLET"));
-  EXPECT_EQ(-1, frmMain::TextEditor().Find("[BILLETS"));
 }
 
 }  // namespace

@@ -6,7 +6,6 @@
 namespace {
 
 using namespace ModCNC;
-using GlobalVariables::RunToBreakpoint;
 
 class PlayerTest : public MachineTest {
  protected:
@@ -15,19 +14,12 @@ class PlayerTest : public MachineTest {
     Graphics::InitStock(100, 200);
     frmMain::picSim.Blt = [this](const Raster&, const PixelRect&) { ++shown_; };
   }
-
-  // A straight path of n + 1 points along Z into the billet at radius 50.
-  static void Feed(int n) {
+  // Along Z into the billet at radius 50.
+  static void Play(void (*executor)(), int length) {
     CurrentX = TargetX = 50;
     CurrentZ = 0;
-    TargetZ = static_cast<std::int16_t>(-n);
-    GCodes::ExecuteG01();
-  }
-  static void Rapid(int n) {
-    CurrentX = TargetX = 50;
-    CurrentZ = 0;
-    TargetZ = static_cast<std::int16_t>(-n);
-    GCodes::ExecuteG00();
+    TargetZ = static_cast<std::int16_t>(-length);
+    executor();
   }
 
   int shown_ = 0;
@@ -35,8 +27,7 @@ class PlayerTest : public MachineTest {
 
 TEST_F(PlayerTest, SliderSetsDelayAndPictures) {
   const struct {
-    int slider;
-    int shown;
+    int slider, shown;
     std::vector<int> sleeps;
   } cases[] = {{10, 3, {}},
                {7, 4, {}},
@@ -47,93 +38,68 @@ TEST_F(PlayerTest, SliderSetsDelayAndPictures) {
     Fakes::Reset();
     shown_ = 0;
     frmMain::Slider.Value = c.slider;
-    Feed(25);
+    Play(GCodes::ExecuteG01, 25);
     EXPECT_EQ(c.shown, shown_) << c.slider;
     EXPECT_EQ(c.shown, Fakes::Yields()) << c.slider;
     EXPECT_EQ(c.sleeps, Fakes::Sleeps()) << c.slider;
   }
 }
 
-TEST_F(PlayerTest, ARapidMovePlaysEverySixthPointAndLeavesTheOthersUncut) {
-  Rapid(13);
+TEST_F(PlayerTest, ARapidMovePlaysEverySixthPointUnlessItRunsToABreakPoint) {
+  Play(GCodes::ExecuteG00, 13);
   EXPECT_EQ(3, GCodes::PointsPlayed);
   for (int z = 0; z >= -13; --z) EXPECT_EQ(z % 6 == 0 ? 50 : 100, RadiusAt(z)) << z;
   EXPECT_EQ(-13, CurrentZ) << "the register reaches a target that was not played";
-  GCodes::PointsPlayed = 0;
-  Rapid(0);
-  EXPECT_EQ(1, GCodes::PointsPlayed);
-  Feed(0);
-  EXPECT_EQ(1, GCodes::PointsPlayed);
-}
-
-TEST_F(PlayerTest, RunToBreakpointPlaysEveryPointAndShowsNone) {
-  RunToBreakpoint = kTrue;
+  Play(GCodes::ExecuteG00, 0);
+  Play(GCodes::ExecuteG01, 0);
+  EXPECT_EQ(4, GCodes::PointsPlayed) << "without a distance only the rapid move plays its point";
+  Fakes::Reset();
+  shown_ = 0;
+  GlobalVariables::RunToBreakpoint = kTrue;
   frmMain::mnuToolsPlaySound.Checked = true;
   frmMain::Slider.Value = -10;
-  Fakes::Reset();
-  Rapid(13);
-  EXPECT_EQ(14, GCodes::PointsPlayed);
-  EXPECT_EQ(0, shown_ + Fakes::Yields() +
-                   static_cast<int>(Fakes::Sleeps().size() + Fakes::Sounds().size()));
+  Play(GCodes::ExecuteG00, 13);
+  EXPECT_EQ(4 + 14, GCodes::PointsPlayed);
+  EXPECT_EQ(0u, Fakes::Sleeps().size() + Fakes::Sounds().size());
+  EXPECT_EQ(0, shown_ + Fakes::Yields());
 }
 
 TEST_F(PlayerTest, TheSoundChangesWithTheKindOfMove) {
-  using Sounds = std::vector<std::string>;
-  Feed(5);
-  Rapid(5);
-  EXPECT_EQ(Sounds{}, Fakes::Sounds()) << "sound is off";
+  const auto heard = [] {
+    std::string names;
+    for (const std::string& path : Fakes::Sounds()) names += path.substr(path.rfind('\\'));
+    return names;
+  };
+  Play(GCodes::ExecuteG00, 5);
+  EXPECT_EQ("", heard()) << "sound is off";
   frmMain::mnuToolsPlaySound.Checked = true;
-  Feed(5);
-  EXPECT_EQ(Sounds{}, Fakes::Sounds()) << "no rapid move has been heard";
-  Rapid(5);
-  Rapid(50);
-  Feed(5);
-  Feed(5);
-  EXPECT_EQ((Sounds{"/app\\sound\\fast.wav", "/app\\sound\\SLOW.wav"}), Fakes::Sounds());
-  // A stop between keeps the memory of the sound.
-  Rapid(5);
+  Play(GCodes::ExecuteG01, 5);
+  EXPECT_EQ("", heard()) << "no rapid move has been heard";
+  for (const auto executor : {GCodes::ExecuteG00, GCodes::ExecuteG00, GCodes::ExecuteG01,
+                              GCodes::ExecuteG01, GCodes::ExecuteG00}) {
+    Play(executor, 5);
+  }
+  EXPECT_EQ("\\fast.wav\\SLOW.wav\\fast.wav", heard());
   frmMain::mnuRunStop_Click();
   GlobalVariables::StopRequested = kFalse;
-  Rapid(5);
-  EXPECT_EQ((Sounds{"/app\\sound\\fast.wav", "/app\\sound\\SLOW.wav", "/app\\sound\\fast.wav",
-                    "/app\\sound\\stop.wav"}),
-            Fakes::Sounds());
+  Play(GCodes::ExecuteG00, 5);
+  EXPECT_EQ("\\fast.wav\\SLOW.wav\\fast.wav\\stop.wav", heard()) << "a stop keeps the memory";
 }
 
-TEST_F(PlayerTest, OffsetsAreAddedBeforeAPointIsRounded) {
+TEST_F(PlayerTest, PointsBeyond16BitsArePlayedAndOffsetsAreAddedBeforeRounding) {
   GCodes::CycleOffsetX = 0.5;
   GCodes::CycleOffsetZ = -10.4;
-  GCodes::PathPoints = {{-0.2, 60.0}, {-3.0, 61.0}};
+  GCodes::PathPoints = {{-0.2, 60.0}, {-3.0, 61.0}, {1e9, -1e9}, {-1e9, 5}};
   GCodes::PlayPath();
   EXPECT_EQ(60, RadiusAt(-11));
   EXPECT_EQ(62, RadiusAt(-13));
-}
-
-TEST_F(PlayerTest, APathLongerThan16BitsPlaysWhole) {
-  frmMain::mnuToolsPlaySound.Checked = false;
+  GCodes::CycleOffsetX = GCodes::CycleOffsetZ = 0;
   CurrentX = TargetX = 90;
   CurrentZ = 32767;
   TargetZ = -32768;
   GCodes::ExecuteG01();
-  EXPECT_EQ(65536, GCodes::PointsPlayed);
+  EXPECT_EQ(4 + 65536, GCodes::PointsPlayed);
   EXPECT_EQ(90, RadiusAt(-100));
-  GCodes::PathPoints = {{1e9, -1e9}, {-1e9, 5}};
-  GCodes::PlayPath();
-  EXPECT_EQ(90, RadiusAt(-100));
-}
-
-TEST_F(PlayerTest, StopDuringAPauseDrawsNoFurtherPoint) {
-  frmMain::EnableCommands("Pause,Stop", true);
-  Fakes::AtYield(1, frmMain::mnuRunPause_Click);
-  Fakes::AtWait([] {
-    EXPECT_EQ(10, GCodes::PointsPlayed);
-    frmMain::mnuRunStop_Click();
-  });
-  frmMain::Slider.Value = 10;
-  GCodes::PathPoints.assign(50, {-5.0, 70.0});
-  Fakes::AtYield(1, [] { GCodes::PointsPlayed = 10; });
-  GCodes::PlayPath();
-  EXPECT_EQ(10, GCodes::PointsPlayed);
 }
 
 }  // namespace

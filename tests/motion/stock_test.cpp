@@ -115,29 +115,6 @@ TEST_F(StockTest, AToolThatCannotBeReadIsToldAndDrawsNothing) {
   EXPECT_EQ(20, Graphics::ToolHeight);
 }
 
-TEST_F(StockTest, APictureSmallerThanTheToolIsPaddedWithTransparency) {
-  Raster dot(2, 2);
-  dot.Fill(dot.Area(), kToolColour);
-  Fakes::PutPicture("/app/tools/dot.bmp", dot);
-  Graphics::LoadTool("/app/tools/dot.bmp", 20'000, 30);
-  Graphics::InitStock(100, 200);
-  Graphics::MoveTool(-50, 20);
-  EXPECT_EQ(kToolColour, Pixel(50, Graphics::CentreLine - 20 - 30));
-  EXPECT_EQ(kToolColour, Pixel(51, Graphics::CentreLine - 20 - 29));
-  EXPECT_EQ(Settings.WorkPieceColor, Pixel(52, Graphics::CentreLine - 20 - 29));
-}
-
-TEST_F(StockTest, AToolKeepsTheBackgroundOfItsLoading) {
-  LoadDefaultTool();
-  Graphics::InitStock(100, 200);
-  Settings.SimBackColor = Rgb(1, 2, 3);
-  Graphics::MoveTool(-20, 60);
-  EXPECT_EQ(Rgb(255, 255, 255), Pixel(80, Graphics::CentreLine + 60));
-  LoadDefaultTool();
-  Graphics::MoveTool(-20, 60);
-  EXPECT_EQ(Rgb(1, 2, 3), Pixel(80, Graphics::CentreLine + 60));
-}
-
 TEST_F(StockTest, OnlyWhatChangedIsShown) {
   LoadDefaultTool();
   std::vector<PixelRect> shown;
@@ -152,19 +129,6 @@ TEST_F(StockTest, OnlyWhatChangedIsShown) {
   EXPECT_EQ((PixelRect{0, 0, 400, 300}), shown[0]);
   EXPECT_TRUE(shown[1].IsEmpty());
   EXPECT_EQ((PixelRect{79, 0, 79 + 68, 300}), shown[2]) << "sprite above, mirror image below";
-}
-
-TEST_F(StockTest, AResizeDuringARunLeavesTheProfileAndAnEmptySurface) {
-  LoadDefaultTool();
-  Graphics::InitStock(100, 200);
-  Graphics::MoveTool(-20, 60);
-  GlobalVariables::SimHeight = 200;
-  Graphics::CreateSurface();
-  Graphics::MoveTool(-21, 60);
-  EXPECT_EQ("b", Column(30));
-  EXPECT_EQ("tb", Column(79).substr(0, 2));
-  EXPECT_EQ(60, RadiusAt(-20));
-  EXPECT_EQ(100, Graphics::CentreLine);
 }
 
 }  // namespace
