@@ -1,5 +1,6 @@
 // Whole programs and the decoder alone. Growth: the same program with 4 and 16 times the rows.
 
+#include <QCoreApplication>
 #include <benchmark/benchmark.h>
 #include <string>
 #include <string_view>
@@ -7,12 +8,16 @@
 #include "debugger/run_commands.h"
 #include "interpreter/decoder.h"
 #include "interpreter/machine.h"
+#include "interpreter/run_driver.h"
 #include "mainwindow/control_surface.h"
+#include "mainwindow/layout.h"
 #include "mainwindow/program_start.h"
 #include "mainwindow/start_up.h"
 #include "motion/player.h"
 #include "motion/stock.h"
+#include "motion/tool.h"
 #include "platform/numbers.h"
+#include "toollib/tool_folder.h"
 
 namespace {
 
@@ -34,6 +39,7 @@ std::string BlockText(int i) {
 }
 
 void LoadProgram(int blocks) {
+  // The rows are filled past the editor, which takes no text as long as 16,000 blocks.
   frmMain::TextEditor().SetText("[BILLET X60 Z80");
   frmMain::DebugWindow.SetRows(blocks + 1);
   frmMain::DebugWindow.SetTextMatrix(0, frmMain::kTextColumn, "[BILLET X60 Z80");
@@ -45,9 +51,12 @@ void LoadProgram(int blocks) {
 void StartProgram() {
   frmMain::ResetToProgramStart();
   frmMain::Form_Load();
-  GlobalVariables::SimWidth = 1000;
-  GlobalVariables::SimHeight = 640;
-  Graphics::CreateSurface();
+  // With both panes hidden the rows are filled only when the text has changed.
+  frmMain::mnuViewTextEditor.Checked = false;
+  frmMain::TextEditor().Visible = false;
+  frmMain::ScaleWidth = 1000;
+  frmMain::ScaleHeight = 703;
+  frmMain::Form_Resize();
   frmMain::Slider.Value = SliderControl::kMax;
   frmMain::mnuToolsPlaySound.Checked = false;
 }
@@ -61,14 +70,40 @@ void WholeProgram(benchmark::State& state) {
     benchmark::DoNotOptimize(surface.Row(0));
     benchmark::DoNotOptimize(changed);
   };
+  frmMain::EnableCommands("Pause,Stop", true);
+  Graphics::LoadTool(GlobalVariables::ToolFolder() + "tool.bmp", frmMain::kDefaultToolWidth,
+                     frmMain::kDefaultToolHeight);
   GCodes::PointsPlayed = 0;
-  for (auto _ : state) frmMain::mnuRunStart_Click();
+  // The run alone: Start would fill the rows from the editor.
+  for (auto _ : state) {
+    GlobalVariables::StopRequested = kFalse;
+    Graphics::ClearSurface();
+    ModCNC::RunProgram();
+  }
   state.counters["blocks"] = benchmark::Counter(static_cast<double>(state.iterations()) * blocks,
                                                 benchmark::Counter::kIsRate);
   state.counters["points"] =
       benchmark::Counter(static_cast<double>(GCodes::PointsPlayed), benchmark::Counter::kIsRate);
 }
 BENCHMARK(WholeProgram)->Arg(1)->Arg(4)->Arg(16)->Unit(benchmark::kMillisecond);
+
+// G73 with 20 passes over a contour of so many rows.
+void PatternCycle(benchmark::State& state) {
+  StartProgram();
+  std::string text =
+      "[BILLET X60 Z80\r\nG00 X62 Z2\r\nG73 U20 W2 R20\r\nG73 P1000 Q2000 U0 W0\r\n"
+      "N1000 G01 X20 Z0\r\n";
+  const auto rows = static_cast<int>(state.range(0));
+  for (int i = 2; i < rows; ++i) text += i % 2 == 0 ? "G01 U0.2 W-0.5\r\n" : "G01 W-0.5\r\n";
+  text += "N2000 G01 X62";
+  frmMain::TextEditor().SetText(text);
+  frmMain::EnableCommands("Start", true);
+  GCodes::PointsPlayed = 0;
+  for (auto _ : state) frmMain::mnuRunStart_Click();
+  state.counters["points"] =
+      benchmark::Counter(static_cast<double>(GCodes::PointsPlayed), benchmark::Counter::kIsRate);
+}
+BENCHMARK(PatternCycle)->Arg(20)->Arg(80)->Unit(benchmark::kMillisecond);
 
 void DecodeAlone(benchmark::State& state) {
   StartProgram();
@@ -83,4 +118,9 @@ BENCHMARK(DecodeAlone);
 
 }  // namespace
 
-BENCHMARK_MAIN();
+int main(int argc, char** argv) {
+  const QCoreApplication application(argc, argv);  // knows the application folder
+  benchmark::Initialize(&argc, argv);
+  benchmark::RunSpecifiedBenchmarks();
+  return 0;
+}
