@@ -1,16 +1,14 @@
 #pragma once
 
-#include <algorithm>
-#include <functional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "debugger/debug_grid.h"
 #include "debugger/row_edit.h"
 #include "editor/editor_events.h"
 #include "mainwindow/view_toggles.h"
-#include "platform/text.h"
 #include "settings/settings.h"
 #include "tests/fakes/machine_test.h"
 
@@ -26,15 +24,10 @@ class DebuggerTest : public MachineTest {
     frmMain::Form_Resize();
   }
 
-  static std::string Joined(const std::vector<std::string>& lines) {
-    std::string text;
-    for (std::size_t i = 0; i < lines.size(); ++i) text += (i > 0 ? "\r\n" : "") + lines[i];
-    return text;
-  }
-
   // The program of these lines in the editor, saved, the rows still behind.
   static void Write(const std::vector<std::string>& lines) {
-    frmMain::TextEditor().SetText(Joined(lines));
+    Load(lines);
+    frmMain::DebugWindow.SetRows(0);
     frmMain::EnableCommands("Save", false);
   }
 
@@ -59,10 +52,6 @@ class DebuggerTest : public MachineTest {
     frmMain::txtDebug.Text = text;
   }
   static void PressEnter() { frmMain::txtDebug_KeyUp(13, 0); }
-  static void Edit(int row, const std::string& text) {
-    OpenEdit(row, text);
-    PressEnter();
-  }
 
   static std::string RowText(int row) {
     return frmMain::DebugWindow.TextMatrix(row, frmMain::kTextColumn);
@@ -75,56 +64,31 @@ class DebuggerTest : public MachineTest {
     return text;
   }
 
-  // A row as the user sees it: "  3 [*] >G01 X20" is row 2 with a break point and the run on it.
+  // A row as the user sees it: "3 [*]> G01 X20" is row 2 with a break point and the run on it.
   // Break flag, picture, colours and weight must belong to one and the same state.
   static std::string ShownRow(int row) {
     const auto& settings = GlobalVariables::Settings;
-    struct State {
-      const char* shown;
-      std::string_view flag;
-      Colour back;
-      Colour fore;
-      GridPicture picture;
-      bool bold;
-    };
-    const State states[] = {
-        {" [ ]  ", "", settings.NormalBackColor, settings.NormalTextColor, GridPicture::None,
-         false},
-        {" [*]  ", "BP", settings.BreakPointColor, settings.BreakPointTextColor, GridPicture::Break,
-         true},
-        {" [ ] >", "", settings.ExecutionPointColor, settings.ExecutionPointTextColor,
-         GridPicture::Step, false},
-        {" [*] >", "BP", settings.BreakPointColor, settings.BreakPointTextColor, GridPicture::Both,
-         true},
-    };
     const GridTable& grid = frmMain::DebugWindow;
-    const CellFormat& mark = grid.Format(row, frmMain::kMarkColumn);
     const CellFormat& text = grid.Format(row, frmMain::kTextColumn);
-    const State& state = *std::find_if(std::begin(states), std::end(states),
-                                       [&](const State& s) { return s.picture == mark.Picture; });
-    EXPECT_EQ(state.flag, grid.TextMatrix(row, frmMain::kBreakColumn)) << "row " << row;
-    EXPECT_EQ(state.back, text.BackColor) << "row " << row;
-    EXPECT_EQ(state.fore, text.ForeColor) << "row " << row;
-    EXPECT_EQ(state.bold, text.FontBold) << "row " << row;
-    if (mark.Picture != GridPicture::None) {
-      EXPECT_EQ(4, mark.PictureAlignment);
-    }
-    const std::string& number = grid.TextMatrix(row, frmMain::kLineNumberColumn);
-    return std::string(3 - std::min<std::size_t>(3, number.size()), ' ') + number + state.shown +
-           RowText(row);
-  }
-
-  static std::vector<std::string> ShownRows() {
-    std::vector<std::string> rows(static_cast<std::size_t>(frmMain::DebugWindow.Rows()));
-    for (std::size_t row = 0; row < rows.size(); ++row) rows[row] = ShownRow(static_cast<int>(row));
-    return rows;
+    const GridPicture picture = grid.Format(row, frmMain::kMarkColumn).Picture;
+    const bool runs = picture == GridPicture::Step || picture == GridPicture::Both;
+    const bool breaks = picture == GridPicture::Break || picture == GridPicture::Both;
+    EXPECT_EQ(breaks ? "BP" : "", grid.TextMatrix(row, frmMain::kBreakColumn)) << "row " << row;
+    EXPECT_EQ(breaks, text.FontBold) << "row " << row;
+    const auto colours =
+        breaks ? std::pair{settings.BreakPointColor, settings.BreakPointTextColor}
+        : runs ? std::pair{settings.ExecutionPointColor, settings.ExecutionPointTextColor}
+               : std::pair{settings.NormalBackColor, settings.NormalTextColor};
+    EXPECT_EQ(colours, std::pair(text.BackColor, text.ForeColor)) << "row " << row;
+    return grid.TextMatrix(row, frmMain::kLineNumberColumn) + (breaks ? " [*]" : " [ ]") +
+           (runs ? "> " : "  ") + RowText(row);
   }
 
   // The row that carries the execution mark, -1 for none.
   static int ExecutingRow() {
     int found = -1;
     for (int row = 0; row < frmMain::DebugWindow.Rows(); ++row) {
-      if (ShownRow(row).find("] >") == std::string::npos) continue;
+      if (ShownRow(row).find("]>") == std::string::npos) continue;
       EXPECT_EQ(-1, found) << "two rows are marked";
       found = row;
     }
@@ -133,22 +97,19 @@ class DebuggerTest : public MachineTest {
 
   static bool IsOpen(std::string_view command) { return frmMain::Toolbar.Buttons(command).Enabled; }
 
-  // What the user can choose: commands, then menus.
+  // What the user can choose: commands, then "Menus" where those that a run closes are open.
   static std::string OpenCommands() {
     std::string open;
     for (const ToolButton& button : frmMain::Toolbar) {
       if (button.Enabled) open += std::string(button.Key) + ' ';
     }
-    for (const auto& [name, menu] : {std::pair{"File ", &frmMain::mnuFile},
-                                     {"View ", &frmMain::mnuView},
-                                     {"Tools ", &frmMain::mnuTools},
-                                     {"Help ", &frmMain::mnuHelp}}) {
-      if (menu->Enabled) open += name;
+    for (const MenuEntry* menu : {&frmMain::mnuView, &frmMain::mnuTools, &frmMain::mnuHelp}) {
+      EXPECT_EQ(frmMain::mnuFile.Enabled, menu->Enabled);
     }
-    return open;
+    return frmMain::mnuFile.Enabled ? open + "Menus" : open;
   }
 
-  static constexpr const char* kIdle = "New Open Print Step Start Options File View Tools Help ";
+  static constexpr const char* kIdle = "New Open Print Step Start Options Menus";
   static constexpr const char* kRunning = "Pause Stop ";
   static constexpr const char* kPaused = "Start Stop ";
 };
