@@ -1,5 +1,5 @@
-// Every sample program end to end: the report of turnbay-play against the kept
-// one. tests/keep_samples makes the kept reports anew.
+// Every sample and every program of the tests end to end: the report of turnbay-play against the
+// kept one. tests/keep_samples makes the kept reports anew.
 
 #include <QDir>
 #include <QFile>
@@ -9,7 +9,6 @@
 #include <QProcess>
 #include <algorithm>
 #include <gtest/gtest.h>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -25,22 +24,29 @@ std::vector<std::string> BaseNames(const char* folder, const char* pattern) {
   return names;
 }
 
-std::vector<std::string> Samples() {
-  return BaseNames(TURNBAY_SAMPLES, "*.cnc");
-}
+// A program and its kept report, without the extension.
+struct Case {
+  const char* programs;
+  const char* reports;
+  std::string name;
+};
 
-std::vector<std::string> KeptReports() {
-  return BaseNames(TURNBAY_KEPT_REPORTS, "*.json");
+// Where the programs and their reports are.
+constexpr const char* kFolders[][2] = {{TURNBAY_SAMPLES, TURNBAY_KEPT_REPORTS},
+                                       {TURNBAY_PROGRAMS, TURNBAY_PROGRAMS}};
+
+std::vector<Case> Cases() {
+  std::vector<Case> cases;
+  for (const auto& [programs, reports] : kFolders) {
+    for (const auto& name : BaseNames(programs, "*.cnc")) {
+      cases.push_back({programs, reports, name});
+    }
+  }
+  return cases;
 }
 
 QString PathOf(const char* folder, const std::string& name, const char* extension) {
   return QDir(folder).filePath(QString::fromStdString(name + extension));
-}
-
-std::optional<QByteArray> ReadKept(const std::string& name) {
-  QFile file(PathOf(TURNBAY_KEPT_REPORTS, name, ".json"));
-  if (!file.open(QIODevice::ReadOnly)) return std::nullopt;
-  return file.readAll();
 }
 
 // Where two values of a report part, for a reader who can't see 800 columns at once.
@@ -58,16 +64,18 @@ std::string Difference(const QJsonValue& kept, const QJsonValue& played) {
          std::to_string(now.size());
 }
 
-class SampleTest : public testing::TestWithParam<std::string> {};
+class SampleTest : public testing::TestWithParam<Case> {};
 
 TEST_P(SampleTest, GivesItsKeptReport) {
-  const auto kept = ReadKept(GetParam());
-  ASSERT_TRUE(kept) << "no kept report; look at the sample's picture, then run tests/keep_samples";
-  const QJsonObject before = QJsonDocument::fromJson(*kept).object();
+  const auto& [programs, reports, name] = GetParam();
+  QFile kept(PathOf(reports, name, ".json"));
+  ASSERT_TRUE(kept.open(QIODevice::ReadOnly))
+      << "no kept report; look at the sample's picture, then run tests/keep_samples";
+  const QJsonObject before = QJsonDocument::fromJson(kept.readAll()).object();
   ASSERT_FALSE(before.isEmpty()) << "the kept report can't be read";
 
   QProcess play;
-  play.start(TURNBAY_PLAY, {"--report", "-", PathOf(TURNBAY_SAMPLES, GetParam(), ".cnc")});
+  play.start(TURNBAY_PLAY, {"--report", "-", PathOf(programs, name, ".cnc")});
   ASSERT_TRUE(play.waitForFinished(kLongestPlayMs)) << play.errorString().toStdString();
   ASSERT_EQ(QProcess::NormalExit, play.exitStatus());
   EXPECT_EQ(0, play.exitCode()) << play.readAllStandardError().toStdString();
@@ -80,12 +88,14 @@ TEST_P(SampleTest, GivesItsKeptReport) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(All, SampleTest, testing::ValuesIn(Samples()),
-                         [](const auto& sample) { return sample.param; });
+INSTANTIATE_TEST_SUITE_P(All, SampleTest, testing::ValuesIn(Cases()),
+                         [](const auto& test) { return test.param.name; });
 
-TEST(KeptReports, BelongToSamples) {
-  EXPECT_FALSE(Samples().empty());
-  EXPECT_EQ(Samples(), KeptReports());
+TEST(KeptReports, BelongToPrograms) {
+  for (const auto& [programs, reports] : kFolders) {
+    EXPECT_FALSE(BaseNames(programs, "*.cnc").empty());
+    EXPECT_EQ(BaseNames(programs, "*.cnc"), BaseNames(reports, "*.json"));
+  }
 }
 
 }  // namespace

@@ -1,0 +1,11 @@
+[2.5 PASSES ARE 2
+[Grooves: radius 14 at Z-3, then 10 at Z-1 twice
+[BILLET X40 Z12
+G00 X60 Z5
+G73 U4 W-2 R2.5
+G73 P10 Q30 U0 W0
+[The contour is one groove down to radius 10 at Z-1
+N10 G00 X44 Z-1 M25
+N20 G01 X20
+N30 G01 X44 M26
+N40 G00 X60 Z5
