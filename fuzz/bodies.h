@@ -14,7 +14,4 @@ void Settings(std::string_view values);
 // A tool list, the byte 1, and a description file: reads both, changes the tool, writes the list.
 void ToolFiles(std::string_view files);
 
-// Ends the process with a message when `holds` is false.
-void Require(bool holds, const char* promise);
-
 }  // namespace Fuzz

@@ -4,7 +4,6 @@
 #include <fstream>
 #include <gtest/gtest.h>
 #include <iterator>
-#include <set>
 #include <string>
 
 // A test with an empty folder of its own, which goes with all that is in it.
@@ -18,7 +17,6 @@ class TemporaryFolderTest : public testing::Test {
   void TearDown() override { std::filesystem::remove_all(folder); }
 
   std::string Path(const std::string& name) const { return folder / name; }
-
   std::string Put(const std::string& name, const std::string& bytes) const {
     std::ofstream(folder / name, std::ios::binary) << bytes;
     return Path(name);
@@ -26,13 +24,6 @@ class TemporaryFolderTest : public testing::Test {
   std::string Bytes(const std::string& name) const {
     std::ifstream file(folder / name, std::ios::binary);
     return {std::istreambuf_iterator<char>(file), {}};
-  }
-  std::set<std::string> Names() const {
-    std::set<std::string> names;
-    for (const auto& entry : std::filesystem::directory_iterator(folder)) {
-      names.insert(entry.path().filename());
-    }
-    return names;
   }
 
   std::filesystem::path folder;

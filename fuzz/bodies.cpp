@@ -1,0 +1,113 @@
+#include "fuzz/bodies.h"
+
+#include <algorithm>
+#include <stdexcept>
+#include <string>
+
+#include "debugger/debug_grid.h"
+#include "editor/reformat.h"
+#include "editor/syntax_check.h"
+#include "interpreter/run_driver.h"
+#include "interpreter/tool_change.h"
+#include "motion/tool.h"
+#include "platform/code_page.h"
+#include "platform/settings_store.h"
+#include "platform/text.h"
+#include "settings/settings.h"
+#include "tests/fakes/machine_test.h"
+#include "toollib/tool_files.h"
+
+namespace Fuzz {
+
+namespace {
+
+void Require(bool holds, const char* promise) {
+  if (!holds) throw std::logic_error(promise);
+}
+
+// Resumes a paused run, and stops one that has yielded often enough for its path to have some
+// thousand points. After that it leaves within its row.
+void KeepRunGoing() {
+  constexpr int kYieldBound = 400;
+  Require(Fakes::Yields() < 20 * kYieldBound, "a stopped run ends");
+  if (Fakes::Yields() == kYieldBound) {
+    frmMain::mnuRunStop_Click();
+  } else if (frmMain::Toolbar.Buttons("Start").Enabled) {
+    frmMain::mnuRunStart_Click();
+  }
+}
+
+void StartMachine() {
+  Fakes::Reset();
+  Fakes::CollectMessages();
+  Fakes::AtEachYield(KeepRunGoing);
+  Fakes::PutPicture("/app/tools/tool.bmp", Raster(4, 4));
+  Fakes::PutPicture("/app/tools/a.bmp", Raster(4, 4));
+  frmMain::ResetToProgramStart();
+  frmMain::Form_Load();
+}
+
+}  // namespace
+
+void Program(std::string_view bytes) {
+  StartMachine();
+  // A small simulation area, so that the pictures cost less than the program. In pixels.
+  GlobalVariables::SimWidth = 90;
+  GlobalVariables::SimHeight = 10;
+  Graphics::CreateSurface();
+  RichText& editor = frmMain::TextEditor();
+  editor.SetText(WithCrLf(DecodeProgram(bytes).text));
+  frmMain::FillDebugWindow();
+  frmMain::ReformatText(editor);
+  const std::string reformatted = editor.Text();
+  frmMain::ReformatText(editor);
+  Require(editor.Text() == reformatted, "reformatting twice is reformatting once");
+  if (frmMain::CheckSyntax(editor)) {
+    Require(editor.SelStart() + editor.SelLength() <= editor.Text().size(),
+            "a fault lies in the text");
+    // Rows that no check has seen, as rows edited in place are.
+    ModCNC::RunProgram();
+    frmMain::mnuRunStop_Click();
+  } else {
+    frmMain::FillDebugWindow();
+    frmMain::mnuRunStart_Click();
+  }
+  for (const Graphics::ProfileColumn& column : Graphics::StockProfile) {
+    Require(column.Radius >= 0 && column.Radius <= (GlobalVariables::BilletX + 1) / 2,
+            "the profile never rises");
+  }
+}
+
+void Settings(std::string_view values) {
+  Fakes::Reset();
+  const auto texts = Split(values, "\n");
+  for (std::size_t i = 0; i < std::min(texts.size(), GlobalVariables::kSettingCount); ++i) {
+    const auto& row = GlobalVariables::kSettingRows.at(i);
+    SaveSetting("CNC", row.section, row.key, texts[i]);
+  }
+  GlobalVariables::LoadSettings();
+  Require(!GlobalVariables::Settings.EditorFontName.empty(), "every font has a name");
+  Require(GlobalVariables::Settings.EditorBackColor <= 0xFFFFFF, "every colour is one");
+}
+
+void ToolFiles(std::string_view files) {
+  StartMachine();
+  const std::size_t end = std::min(files.find('\1'), files.size());
+  Fakes::PutFile("/app/tools/ToolList.ini", std::string(files.substr(0, end)));
+  Fakes::PutFile("/app/tools/a.ini", std::string(files.substr(std::min(end + 1, files.size()))));
+  Graphics::LoadTool("/app/tools/tool.bmp", 8, 8);
+  frmToolSelect::GetToolList();
+  for (const std::int16_t number : std::initializer_list<std::int16_t>{-1, 0, 1, 21}) {
+    ModCNC::ToolNumber = number;
+    ModCNC::ChangeTool();
+    Require(Graphics::ToolDC.sprite.Width() > 0, "there is always a tool");
+  }
+  const auto entries = GlobalVariables::ToolFiles;
+  std::string reason;
+  Require(frmToolSelect::WriteToolList(reason), "a list that was read can be written");
+  GlobalVariables::ToolFiles = {};
+  frmToolSelect::GetToolList();
+  Require(GlobalVariables::ToolFiles == entries, "a list is read as it was written");
+}
+
+}  // namespace Fuzz
