@@ -121,10 +121,11 @@ void SetTextEditor(RichText* body) {
   if (&next == &former) return;
   former.WatchChange({});
   next.SetTextRTF(former.TextRTF());
-  next.Locked = former.Locked;
-  next.Visible = former.Visible;
-  next.BackColor = former.BackColor;
-  next.Font.Name = former.Font.Name;
+  // Values alone: each body keeps its own watchers.
+  next.Locked = former.Locked.Get();
+  next.Visible = former.Visible.Get();
+  next.BackColor = former.BackColor.Get();
+  next.Font.Name = former.Font.Name.Get();
   next.WatchChange(TextEditor_Change);
   textEditor = &next;
 }
