@@ -1,0 +1,97 @@
+#include "platform/desktop.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+#include <gtest/gtest.h>
+
+namespace {
+
+// Acts on the next message box as soon as it is up.
+template <class Action>
+void WhenAsked(Action action) {
+  QTimer::singleShot(0, qApp, [action] {
+    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    ASSERT_NE(nullptr, box);
+    action(*box);
+  });
+}
+
+TEST(DesktopTest, AMessageBoxHasTheIconAndButtonsOfItsStyle) {
+  WhenAsked([](QMessageBox& box) {
+    EXPECT_EQ("Orvane's Turnbay", box.windowTitle());
+    EXPECT_EQ("<b>X1</b> & more", box.text());
+    EXPECT_EQ(Qt::PlainText, box.textFormat());
+    EXPECT_EQ(QMessageBox::NoIcon, box.icon());
+    QTest::keyClick(&box, Qt::Key_Escape);
+  });
+  EXPECT_EQ(Desktop::kOk, Desktop::MessageBox("<b>X1</b> & more"));
+  WhenAsked([](QMessageBox& box) {
+    EXPECT_EQ("Error!", box.windowTitle());
+    EXPECT_EQ(QMessageBox::Critical, box.icon());
+    QTest::keyClick(&box, Qt::Key_Return);
+  });
+  EXPECT_EQ(Desktop::kOk, Desktop::MessageBox("Full.", Desktop::kCritical, "Error!"));
+}
+
+TEST(DesktopTest, AQuestionAnswersYesByDefaultAndCancelWhenClosed) {
+  const int style = Desktop::kYesNoCancel + Desktop::kQuestion;
+  WhenAsked([](QMessageBox& box) {
+    EXPECT_EQ(QMessageBox::Question, box.icon());
+    QTest::keyClick(&box, Qt::Key_Return);
+  });
+  EXPECT_EQ(Desktop::kYes, Desktop::MessageBox("Save?", style));
+  WhenAsked([](QMessageBox& box) { box.button(QMessageBox::No)->click(); });
+  EXPECT_EQ(Desktop::kNo, Desktop::MessageBox("Save?", style));
+  WhenAsked([](QMessageBox& box) { box.close(); });
+  EXPECT_EQ(Desktop::kCancel, Desktop::MessageBox("Save?", style));
+}
+
+TEST(DesktopTest, SentKeysReachTheFocusAtTheNextYield) {
+  QLineEdit edit;
+  edit.show();
+  edit.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&edit));
+  edit.setText("AB");
+  edit.setCursorPosition(0);
+  Desktop::SendKeys(Desktop::kRightArrowKeys);
+  Desktop::SendKeys("Zx ");
+  EXPECT_EQ("AB", edit.text());
+  Desktop::Yield();
+  EXPECT_EQ("AZx B", edit.text());
+}
+
+TEST(DesktopTest, AYieldHandlesEventsThatOthersBring) {
+  std::string order;
+  QTimer::singleShot(0, qApp, [&] {
+    order += 'a';
+    QTimer::singleShot(0, qApp, [&] { order += 'b'; });
+  });
+  Desktop::Yield();
+  EXPECT_EQ("ab", order);
+}
+
+TEST(DesktopTest, WaitingSleepsUntilSomethingHappens) {
+  Desktop::Yield();
+  bool called = false;
+  QTimer::singleShot(30, qApp, [&] { called = true; });
+  int turns = 0;
+  while (!called) {
+    Desktop::WaitForEvent();
+    ++turns;
+  }
+  EXPECT_LT(turns, 10) << "a wait that returns at once would turn thousands of times";
+}
+
+TEST(DesktopTest, ASoundThatCannotPlayIsSilence) {
+  Desktop::sndPlaySoundA("\\nowhere\\fast.wav", Desktop::kSoundAsync + Desktop::kSoundLoop);
+  Desktop::sndPlaySoundA("\\nowhere\\SLOW.wav", Desktop::kSoundAsync + Desktop::kSoundLoop);
+  Desktop::Yield();
+  EXPECT_EQ(nullptr, QApplication::activeModalWidget());
+}
+
+}  // namespace
