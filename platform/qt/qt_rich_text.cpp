@@ -100,26 +100,20 @@ void QtRichText::SetText(std::string text) {
   FormattedText formatted{std::move(text), {}};
   if (!formatted.text.empty()) formatted.runs.push_back({0, format});
   Fill(formatted);
+  Select(0, 0);
   selFormat_ = format;
   NotifyChange();
 }
 
 FormattedText QtRichText::TextRTF() const {
   FormattedText formatted{Text(), {}};
-  std::size_t offset = 0;
-  const auto append = [&](const QTextCharFormat& format, int length) {
-    TextFormat next = FromCharFormat(format);
-    if (formatted.runs.empty() || formatted.runs.back().format != next) {
-      formatted.runs.push_back({offset, std::move(next)});
-    }
-    offset += static_cast<std::size_t>(length);
-  };
-  for (QTextBlock block = document()->begin(); block.isValid(); block = block.next()) {
-    for (auto it = block.begin(); !it.atEnd(); ++it) {
-      append(it.fragment().charFormat(), it.fragment().length());
-    }
-    if (block.next().isValid()) append(block.next().charFormat(), int{kLineEnd.size()});
-  }
+  VisitFormats(0, document()->characterCount() - 1,
+               [&](int from, int /*to*/, const QTextCharFormat& format) {
+                 TextFormat next = FromCharFormat(format);
+                 if (formatted.runs.empty() || formatted.runs.back().format != next) {
+                   formatted.runs.push_back({OffsetOf(from), std::move(next)});
+                 }
+               });
   return formatted;
 }
 
@@ -130,7 +124,6 @@ void QtRichText::SetTextRTF(FormattedText formatted) {
     Fill(formatted);
   }
   Select(0, 0);
-  ShowSelFormat();
   NotifyChange();
 }
 
@@ -249,25 +242,41 @@ std::size_t QtRichText::OffsetOf(int position) const {
   return static_cast<std::size_t>(position + document()->findBlock(position).blockNumber());
 }
 
+template <class Visit>
+void QtRichText::VisitFormats(int from, int to, Visit visit) const {
+  for (QTextBlock block = document()->findBlock(from); block.isValid() && block.position() < to;
+       block = block.next()) {
+    const int lineEnd = block.position() + block.length() - 1;
+    for (auto it = block.begin(); !it.atEnd(); ++it) {
+      const QTextFragment fragment = it.fragment();
+      const int start = std::max(from, fragment.position());
+      const int end = std::min(to, fragment.position() + fragment.length());
+      if (start < end) visit(start, end, fragment.charFormat());
+    }
+    if (lineEnd >= from && lineEnd < to) visit(lineEnd, lineEnd + 1, block.next().charFormat());
+  }
+}
+
+// A cursor would know, but moving one lays the text out up to it.
 TextFormat QtRichText::FormatAt(int position) const {
-  const QTextBlock block = document()->findBlock(position);
-  const bool isLineEnd = position == block.position() + block.length() - 1;
-  if (isLineEnd) return FromCharFormat(block.next().charFormat());
-  QTextCursor cursor(block);
-  cursor.setPosition(position + 1);
-  return FromCharFormat(cursor.charFormat());
+  TextFormat found;
+  VisitFormats(position, position + 1,
+               [&](int /*from*/, int /*to*/, const QTextCharFormat& format) {
+                 found = FromCharFormat(format);
+               });
+  return found;
 }
 
 // In an empty control it stays what it was.
 void QtRichText::ShowSelFormat() {
-  if (document()->isEmpty()) return;
+  if (quiet_ || document()->isEmpty()) return;
   const QTextCursor cursor = textCursor();
   const int start = cursor.selectionStart();
   selFormat_ = FormatAt(cursor.hasSelection() || start == 0 ? start : start - 1);
 }
 
 void QtRichText::Select(int anchor, int position) {
-  QTextCursor cursor = textCursor();
+  QTextCursor cursor(document());
   cursor.setPosition(anchor);
   cursor.setPosition(position, QTextCursor::KeepAnchor);
   setTextCursor(cursor);
@@ -283,8 +292,8 @@ void QtRichText::Fill(const FormattedText& formatted) {
   document()->setUndoRedoEnabled(false);
   QTextCursor cursor(document());
   cursor.beginEditBlock();
-  cursor.select(QTextCursor::Document);
-  cursor.removeSelectedText();
+  // Unlike taking the text out with a cursor, this lets the layout begin with what is in view.
+  document()->clear();
   std::size_t offset = 0;
   qsizetype position = 0;
   for (std::size_t run = 0; run < formatted.runs.size(); ++run) {
@@ -298,11 +307,12 @@ void QtRichText::Fill(const FormattedText& formatted) {
     }
     cursor.insertText(text.mid(from, position - from), formats.Of(formatted.runs[run].format));
   }
+  // The caret went along to the end, which would now be laid out for it.
+  setTextCursor(QTextCursor(document()));
   cursor.endEditBlock();
   document()->setUndoRedoEnabled(true);
   text_ = bytes;
   textIsCurrent_ = true;
-  Select(0, 0);
 }
 
 void QtRichText::Recolour(const FormattedText& formatted) {
@@ -326,7 +336,8 @@ void QtRichText::Recolour(const FormattedText& formatted) {
       while (endOf(former, old) <= start) ++old;
       const std::size_t stop = std::min(end, endOf(former, old));
       if (former.runs[old].format != formatted.runs[run].format) {
-        SetFormat(start, stop, formatted.runs[run].format);
+        // A line end takes the format of its CR.
+        SetFormat(EndPositionOf(start), EndPositionOf(stop), formatted.runs[run].format);
       }
       start = stop;
     }
@@ -335,33 +346,33 @@ void QtRichText::Recolour(const FormattedText& formatted) {
   if (!hasHistory) document()->clearUndoRedoStacks();
 }
 
-void QtRichText::SetFormat(std::size_t start, std::size_t end, const TextFormat& format) {
+void QtRichText::SetFormat(int from, int to, const TextFormat& format) {
   QTextCursor cursor(document());
-  // A line end takes the format of its CR.
-  cursor.setPosition(EndPositionOf(start));
-  cursor.setPosition(EndPositionOf(end), QTextCursor::KeepAnchor);
+  cursor.setPosition(from);
+  cursor.setPosition(to, QTextCursor::KeepAnchor);
   cursor.setCharFormat(ToCharFormat(format));
 }
 
 template <class Value>
 void QtRichText::SetSelFormat(Value TextFormat::*member, const Value& value) {
   selFormat_.*member = value;
-  const std::size_t start = SelStart();
-  const std::size_t end = start + SelLength();
-  if (start == end) return;
+  QTextCursor selection = textCursor();
+  if (!selection.hasSelection()) return;
+  struct Stretch {
+    int from;
+    int to;
+    TextFormat format;
+  };
+  std::vector<Stretch> stretches;
+  VisitFormats(selection.selectionStart(), selection.selectionEnd(),
+               [&](int from, int to, const QTextCharFormat& format) {
+                 stretches.push_back({from, to, FromCharFormat(format)});
+                 stretches.back().format.*member = value;
+               });
   const QScopedValueRollback quiet(quiet_, true);
-  const FormattedText former = TextRTF();
-  QTextCursor history(document());
-  history.beginEditBlock();
-  for (std::size_t run = 0; run < former.runs.size(); ++run) {
-    const bool isLast = run + 1 == former.runs.size();
-    const std::size_t from = std::max(start, former.runs[run].start);
-    const std::size_t to = std::min(end, isLast ? former.text.size() : former.runs[run + 1].start);
-    TextFormat format = former.runs[run].format;
-    format.*member = value;
-    if (from < to) SetFormat(from, to, format);
-  }
-  history.endEditBlock();
+  selection.beginEditBlock();
+  for (const Stretch& stretch : stretches) SetFormat(stretch.from, stretch.to, stretch.format);
+  selection.endEditBlock();
   formattedSelection_ = true;
 }
 

@@ -72,6 +72,9 @@ class QtRichText : public QTextEdit, public RichText {
   int PositionOf(std::size_t offset) const;
   int EndPositionOf(std::size_t offset) const;
   std::size_t OffsetOf(int position) const;
+  // Calls visit(from, to, format) for each stretch of one format between two positions.
+  template <class Visit>
+  void VisitFormats(int from, int to, Visit visit) const;
   // The format of the character behind a position.
   TextFormat FormatAt(int position) const;
   void ShowSelFormat();
@@ -80,7 +83,7 @@ class QtRichText : public QTextEdit, public RichText {
   void Fill(const FormattedText& formatted);
   // Gives the text that stands there other formats.
   void Recolour(const FormattedText& formatted);
-  void SetFormat(std::size_t start, std::size_t end, const TextFormat& format);
+  void SetFormat(int from, int to, const TextFormat& format);
   template <class Value>
   void SetSelFormat(Value TextFormat::*member, const Value& value);
 
