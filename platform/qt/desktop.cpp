@@ -51,4 +51,9 @@ void SendKeys(const std::string& keys) {
   }
 }
 
+// Unlike quit(), this asks no window.
+void EndProgram() {
+  QCoreApplication::exit(0);
+}
+
 }  // namespace Desktop

@@ -1,7 +1,7 @@
 #include "platform/desktop.h"
 
 #include <QApplication>
-#include <QElapsedTimer>
+#include <QCloseEvent>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
@@ -85,6 +85,19 @@ TEST(DesktopTest, WaitingSleepsUntilSomethingHappens) {
     ++turns;
   }
   EXPECT_LT(turns, 10) << "a wait that returns at once would turn thousands of times";
+}
+
+TEST(DesktopTest, TheProgramEndsWithoutAskingAWindow) {
+  class Stubborn : public QWidget {
+    void closeEvent(QCloseEvent* event) override { event->ignore(); }
+  };
+  Stubborn window;
+  window.show();
+  QTimer::singleShot(0, qApp, [] {
+    Desktop::EndProgram();
+    Desktop::EndProgram();
+  });
+  EXPECT_EQ(0, QApplication::exec());
 }
 
 TEST(DesktopTest, ASoundThatCannotPlayIsSilence) {
