@@ -38,19 +38,6 @@ TEST(DesktopTest, AMessageBoxHasTheIconAndButtonsOfItsStyle) {
   EXPECT_EQ(Desktop::kOk, Desktop::MessageBox("Full.", Desktop::kCritical, "Error!"));
 }
 
-TEST(DesktopTest, AQuestionAnswersYesByDefaultAndCancelWhenClosed) {
-  const int style = Desktop::kYesNoCancel + Desktop::kQuestion;
-  WhenAsked([](QMessageBox& box) {
-    EXPECT_EQ(QMessageBox::Question, box.icon());
-    QTest::keyClick(&box, Qt::Key_Return);
-  });
-  EXPECT_EQ(Desktop::kYes, Desktop::MessageBox("Save?", style));
-  WhenAsked([](QMessageBox& box) { box.button(QMessageBox::No)->click(); });
-  EXPECT_EQ(Desktop::kNo, Desktop::MessageBox("Save?", style));
-  WhenAsked([](QMessageBox& box) { box.close(); });
-  EXPECT_EQ(Desktop::kCancel, Desktop::MessageBox("Save?", style));
-}
-
 TEST(DesktopTest, SentKeysReachTheFocusAtTheNextYield) {
   QLineEdit edit;
   edit.show();
@@ -65,28 +52,6 @@ TEST(DesktopTest, SentKeysReachTheFocusAtTheNextYield) {
   EXPECT_EQ("AZx B", edit.text());
 }
 
-TEST(DesktopTest, AYieldHandlesEventsThatOthersBring) {
-  std::string order;
-  QTimer::singleShot(0, qApp, [&] {
-    order += 'a';
-    QTimer::singleShot(0, qApp, [&] { order += 'b'; });
-  });
-  Desktop::Yield();
-  EXPECT_EQ("ab", order);
-}
-
-TEST(DesktopTest, WaitingSleepsUntilSomethingHappens) {
-  Desktop::Yield();
-  bool called = false;
-  QTimer::singleShot(30, qApp, [&] { called = true; });
-  int turns = 0;
-  while (!called) {
-    Desktop::WaitForEvent();
-    ++turns;
-  }
-  EXPECT_LT(turns, 10) << "a wait that returns at once would turn thousands of times";
-}
-
 TEST(DesktopTest, TheProgramEndsWithoutAskingAWindow) {
   class Stubborn : public QWidget {
     void closeEvent(QCloseEvent* event) override { event->ignore(); }
@@ -98,13 +63,6 @@ TEST(DesktopTest, TheProgramEndsWithoutAskingAWindow) {
     Desktop::EndProgram();
   });
   EXPECT_EQ(0, QApplication::exec());
-}
-
-TEST(DesktopTest, ASoundThatCannotPlayIsSilence) {
-  Desktop::sndPlaySoundA("\\nowhere\\fast.wav", Desktop::kSoundAsync + Desktop::kSoundLoop);
-  Desktop::sndPlaySoundA("\\nowhere\\SLOW.wav", Desktop::kSoundAsync + Desktop::kSoundLoop);
-  Desktop::Yield();
-  EXPECT_EQ(nullptr, QApplication::activeModalWidget());
 }
 
 }  // namespace

@@ -48,16 +48,6 @@ TEST_F(DialogsTest, AFileThatExistsIsOpened) {
   EXPECT_EQ(PathOf("part.cnc").toStdString(), com.FileName);
 }
 
-TEST_F(DialogsTest, ACancelIsAnErrorOnlyWhereItIsWanted) {
-  com.FileName = "/old.cnc";
-  WhenShown({});
-  EXPECT_FALSE(com.ShowOpen());
-  com.CancelError = false;
-  WhenShown({});
-  EXPECT_TRUE(com.ShowSave());
-  EXPECT_EQ("/old.cnc", com.FileName);
-}
-
 TEST_F(DialogsTest, SavingOverAFileAsksFirst) {
   WhenShown(PathOf("new"));
   EXPECT_TRUE(com.ShowSave());

@@ -120,32 +120,4 @@ TEST_F(GridViewTest, CellsShowTheirFormats) {
   EXPECT_EQ(kEmptyArea, Pixel(5, 3 * 19 + 10)) << "also under the line numbers";
 }
 
-TEST_F(GridViewTest, WidthsAndHeightsAreTwips) {
-  EXPECT_EQ(30, view.verticalHeader()->width());
-  EXPECT_EQ(20, view.columnWidth(1));
-  EXPECT_TRUE(view.isColumnHidden(3));
-  EXPECT_EQ(19, view.rowHeight(70));
-  table.SetRowHeight(70, 600);
-  EXPECT_EQ(40, view.rowHeight(70));
-  table.SetColWidth(0, 0);
-  EXPECT_FALSE(view.verticalHeader()->isVisible());
-}
-
-TEST_F(GridViewTest, ToolTipsShowMarkupAsItStands) {
-  table.ToolTipText = "G00 X1";
-  EXPECT_EQ("G00 X1", view.toolTip());
-  table.ToolTipText = "[<b>fat</b>";
-  EXPECT_TRUE(view.toolTip().contains("&lt;b&gt;"));
-}
-
-TEST_F(GridViewTest, LongTablesShowWithoutACopyOfTheirRows) {
-  Fill(32'767);
-  EXPECT_EQ(32'767, view.model()->rowCount());
-  table.TopRow = 32'000;
-  EXPECT_EQ(32'000, view.rowAt(1));
-  EXPECT_EQ("X32000", view.model()->index(32'000, 2).data().toString());
-  table.SetRows(1);
-  EXPECT_EQ(0, view.rowAt(1));
-}
-
 }  // namespace

@@ -110,13 +110,6 @@ TEST_F(QtEditorTest, SelectionCountsALineEndAsTwo) {
   EXPECT_EQ("G00\r\n", editor.SelText());
 }
 
-TEST_F(QtEditorTest, LoneLineEndCharactersSurvive) {
-  editor.SetText("A\rB\nC\n\rD\r\r\nE");
-  EXPECT_EQ("A\rB\nC\n\rD\r\r\nE", editor.Text());
-  TypeKeys("X");
-  EXPECT_EQ("XA\rB\nC\n\rD\r\r\nE", editor.Text());
-}
-
 TEST_F(QtEditorTest, UndoGoesBackWordByWordAndNeverIntoAColouring) {
   TypeKeys("G01 X20");
   FormattedText coloured = editor.TextRTF();
@@ -136,25 +129,6 @@ TEST_F(QtEditorTest, UndoGoesBackWordByWordAndNeverIntoAColouring) {
   editor.SetTextRTF({"M30", {{0, {}}}});
   editor.undo();
   EXPECT_EQ("M30", editor.Text()) << "a text put in by the program is no edit";
-}
-
-TEST_F(QtEditorTest, ReplacingASelectionIsOneStepOfUndo) {
-  editor.SetText("X20 Z5");
-  Select(editor, 0, 3);
-  TypeKeys("W");
-  EXPECT_EQ("W Z5", editor.Text());
-  editor.undo();
-  EXPECT_EQ("X20 Z5", editor.Text());
-  EXPECT_EQ("......", Shown(editor.TextRTF()));
-}
-
-TEST_F(QtEditorTest, MovingTheCaretOverASelectionIsNoChange) {
-  editor.SetText("X20 Z5");
-  frmMain::EnableCommands("Save", false);
-  Select(editor, 0, 3);
-  Press(Qt::Key_Right);
-  EXPECT_EQ(3u, editor.SelStart());
-  EXPECT_FALSE(frmMain::Toolbar.Buttons("Save").Enabled);
 }
 
 TEST_F(QtEditorTest, EachUserEditIsHeardOnce) {
@@ -190,13 +164,6 @@ TEST_F(QtEditorTest, CharactersBeyondTheCodePageAreRefused) {
   EXPECT_EQ("\x80 \xE4\x96\xA0\xFCZ", editor.Text());
 }
 
-TEST_F(QtEditorTest, CopiedTextKeepsEveryCharacter) {
-  editor.SetText("[\xA0\x80\r\nX");
-  Press(Qt::Key_A, Qt::ControlModifier);
-  Press(Qt::Key_C, Qt::ControlModifier);
-  EXPECT_EQ(QString::fromUtf8("[\u00A0\u20AC\nX"), QApplication::clipboard()->text());
-}
-
 TEST_F(QtEditorTest, ALockedEditorIsReadAndCopiedOnly) {
   editor.SetText("G00");
   editor.Locked = true;
@@ -210,22 +177,6 @@ TEST_F(QtEditorTest, ALockedEditorIsReadAndCopiedOnly) {
   editor.Locked = false;
   TypeKeys("M");
   EXPECT_EQ("M00", editor.Text());
-}
-
-TEST_F(QtEditorTest, ADroppedFileIsLeftToTheWindow) {
-  QMimeData file;
-  file.setUrls({QUrl::fromLocalFile("/part.cnc")});
-  QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &file, Qt::LeftButton, Qt::NoModifier);
-  QApplication::sendEvent(editor.viewport(), &drop);
-  EXPECT_EQ("", editor.Text());
-}
-
-TEST_F(QtEditorTest, TextAndCaretStayReadableOnTheUsersBackground) {
-  editor.BackColor = Rgb(20, 20, 40);
-  EXPECT_EQ(QColor(20, 20, 40), editor.palette().color(QPalette::Base));
-  EXPECT_EQ(QColor(Qt::white), editor.palette().color(QPalette::Text));
-  editor.Font.Name = "Courier New";
-  EXPECT_EQ("Courier New", editor.document()->defaultFont().families().value(0));
 }
 
 }  // namespace

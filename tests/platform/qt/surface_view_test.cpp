@@ -54,17 +54,6 @@ TEST_F(SurfaceViewTest, OnlyTheChangeIsPainted) {
   EXPECT_EQ(0xFF000000, picture.pixel(50, 50));
 }
 
-TEST_F(SurfaceViewTest, AnotherSizeIsTakenAsAWholeWithTheBackColourBeside) {
-  box.BackColor = Rgb(1, 2, 3);
-  Raster smaller(60, 40);
-  smaller.Fill(smaller.Area(), Rgb(0, 255, 0));
-  box.Blt(smaller, {});
-  const QImage picture = Picture();
-  EXPECT_EQ(0xFF00FF00, picture.pixel(59, 39));
-  EXPECT_EQ(0xFF010203, picture.pixel(60, 39));
-  EXPECT_EQ(0xFF010203, picture.pixel(119, 79));
-}
-
 TEST_F(SurfaceViewTest, APaintFirstAsksForWhatWasNeverCopied) {
   view.Paint = [this] {
     surface.SetPixel(3, 4, Rgb(0, 0, 255));
