@@ -55,6 +55,7 @@ void Program(std::string_view bytes) {
   GlobalVariables::SimWidth = 90;
   GlobalVariables::SimHeight = 10;
   Graphics::CreateSurface();
+  frmMain::Slider.Value = SliderControl::kMax;
   RichText& editor = frmMain::TextEditor();
   editor.SetText(WithCrLf(DecodeProgram(bytes).text));
   frmMain::FillDebugWindow();
