@@ -4,6 +4,7 @@
 #include <string>
 
 #include "debugger/debug_grid.h"
+#include "debugger/row_edit.h"
 #include "editor/colouring.h"
 #include "editor/editor_events.h"
 #include "editor/program_file.h"
@@ -34,8 +35,9 @@ const std::string& DocumentName() {
   return StatusBar.Panels("FileName").Text;
 }
 
-// False when the operation that asks has to stop.
+// False when the operation that asks has to stop. What is typed over a row counts as a change.
 bool MayDropDocument() {
+  txtDebug_LostFocus();
   if (!IsModified()) return true;
   const int answer =
       Desktop::MessageBox("Save changes to " + DocumentName() + "?",
@@ -110,6 +112,7 @@ void mnuFileRecentFiles_Click(std::int16_t index) {
 }
 
 void mnuFileSave_Click() {
+  txtDebug_LostFocus();
   if (DocumentName() == kUntitled) {
     mnuFileSaveAS_Click();
     return;
@@ -131,6 +134,7 @@ void mnuFileSave_Click() {
 
 // Whatever fails here ends it silently: "Save" stays enabled, which the save question looks at.
 void mnuFileSaveAS_Click() {
+  txtDebug_LostFocus();
   PrepareFileDialog();
   if (!com.ShowSave()) return;
   std::string reason;
