@@ -9,6 +9,7 @@
 #include "editor/syntax_check.h"
 #include "interpreter/run_driver.h"
 #include "interpreter/tool_change.h"
+#include "mainwindow/layout.h"
 #include "motion/tool.h"
 #include "platform/code_page.h"
 #include "platform/settings_store.h"
@@ -44,17 +45,18 @@ void StartMachine() {
   Fakes::PutPicture("/app/tools/tool.bmp", Raster(4, 4));
   Fakes::PutPicture("/app/tools/a.bmp", Raster(4, 4));
   frmMain::ResetToProgramStart();
+  // A window whose simulation area comes out as 90 by 10 pixels, so that the pictures cost less
+  // than the program.
+  frmMain::ScaleWidth = 117;
+  frmMain::ScaleHeight = 73;
   frmMain::Form_Load();
+  frmMain::Form_Resize();
 }
 
 }  // namespace
 
 void Program(std::string_view bytes) {
   StartMachine();
-  // A small simulation area, so that the pictures cost less than the program. In pixels.
-  GlobalVariables::SimWidth = 90;
-  GlobalVariables::SimHeight = 10;
-  Graphics::CreateSurface();
   frmMain::Slider.Value = SliderControl::kMax;
   RichText& editor = frmMain::TextEditor();
   editor.SetText(WithCrLf(DecodeProgram(bytes).text));
