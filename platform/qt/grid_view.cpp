@@ -241,7 +241,7 @@ void GridView::ApplyLayout() {
 // A hidden grid doesn't know how far it can be scrolled, so it takes no part in it.
 void GridView::ApplyTopRow() {
   const QScopedValueRollback applying(applying_, true);
-  updateGeometries();
+  GridView::updateGeometries();
   verticalScrollBar()->setValue(table_.TopRow);
   if (isVisible()) table_.TopRow = verticalScrollBar()->value();
 }

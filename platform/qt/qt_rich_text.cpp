@@ -172,11 +172,9 @@ void QtRichText::keyPressEvent(QKeyEvent* event) {
   const bool isCommand = (modifiers & (Qt::AltModifier | Qt::MetaModifier)) != 0;
   if (isCommand && HasCharacter(*event)) {
     event->ignore();
-  } else if (isControl || isCommand) {
-    QTextEdit::keyPressEvent(event);
-  } else if (IsEnter(*event)) {
+  } else if (!isControl && !isCommand && IsEnter(*event)) {
     TypeByte(kEnter);
-  } else if (HasCharacter(*event)) {
+  } else if (!isControl && HasCharacter(*event)) {
     Type(event->text());
   } else {
     QTextEdit::keyPressEvent(event);
