@@ -9,6 +9,7 @@
 #include "mainwindow/control_surface.h"
 #include "mainwindow/view_toggles.h"
 #include "platform/files.h"
+#include "platform/notifications.h"
 #include "platform/numbers.h"
 #include "platform/settings_store.h"
 #include "settings/settings.h"
@@ -63,6 +64,7 @@ void Form_Load() {
   EnableCommands("Save,Print,Step,Start,Pause,Stop", false);
   StatusBar.Panels("FileName").Text = kUntitled;
   com.InitDir = ApplicationFolder();
+  if (GlobalVariables::Settings.SplashScreen != 0) Desktop::ShowSplash();
   if (mnuFileRecentFiles[0].Enabled && GlobalVariables::Settings.OpenLastFile != 0) {
     mnuFileRecentFiles_Click(0);
   }

@@ -9,4 +9,7 @@ namespace Desktop {
 // once. One that comes while another is still up replaces its text.
 void ShowNotification(const std::string& text, int milliseconds, bool modal);
 
+// Shows the splash window, and returns when the user has closed it. Events are handled meanwhile.
+void ShowSplash();
+
 }  // namespace Desktop

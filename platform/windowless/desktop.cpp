@@ -55,6 +55,9 @@ void ShowNotification(const std::string& text, int milliseconds, bool modal) {
   notifications.push_back({text, milliseconds, modal});
 }
 
+// There is nobody to look at it.
+void ShowSplash() {}
+
 // No control has the focus.
 void SendKeys(const std::string& /*keys*/) {}
 

@@ -241,6 +241,8 @@ void ShowNotification(const std::string& text, int milliseconds, bool modal) {
   if (modal) HandleEvents();
 }
 
+void ShowSplash() {}
+
 void SendKeys(const std::string& keys) {
   world.sentKeys.push_back(keys);
   world.keyQueue.push_back(keys);

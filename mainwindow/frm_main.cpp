@@ -1,0 +1,4 @@
+#include "mainwindow/frm_main.h"
+
+MainWindow::MainWindow() = default;
+MainWindow::~MainWindow() = default;

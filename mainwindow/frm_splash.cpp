@@ -1,0 +1,7 @@
+#include "platform/notifications.h"
+
+namespace Desktop {
+
+void ShowSplash() {}
+
+}  // namespace Desktop
