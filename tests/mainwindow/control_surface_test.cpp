@@ -41,6 +41,8 @@ TEST_F(ControlSurfaceTest, AWatcherHearsOfRealChangesOnlyAndButtonsFirst) {
   frmMain::EnableCommands("Step", true);
   frmMain::EnableCommands("Step,Step", true);
   EXPECT_EQ((std::vector<std::string>{"button on", "menu on"}), heard);
+  frmMain::Toolbar.Buttons("Step").Enabled.Watch({});
+  frmMain::mnuRunStepInto.Enabled.Watch({});
 }
 
 }  // namespace
