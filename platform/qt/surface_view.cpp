@@ -20,17 +20,24 @@ bool IsWhole(qreal scale) {
 
 SurfaceView::SurfaceView(PictureBox& box, QWidget* parent) : QWidget(parent), box_(box) {
   setAttribute(Qt::WA_OpaquePaintEvent);
+  box_.Cls = [this] {
+    picture_ = {};
+    cleared_ = true;
+    update();
+  };
   box_.Blt = [this](const Raster& surface, const PixelRect& changed) { Show(surface, changed); };
   box_.BackColor.Watch([this](Colour) { update(); });
 }
 
 SurfaceView::~SurfaceView() {
   box_.Blt = nullptr;
+  box_.Cls = nullptr;
   box_.BackColor.Watch({});
 }
 
 void SurfaceView::Show(const Raster& surface, const PixelRect& changed) {
   PixelRect copied = changed;
+  cleared_ = false;
   if (picture_.size() != QSize(surface.Width(), surface.Height())) {
     picture_ = QImage(surface.Width(), surface.Height(), QImage::Format_RGB32);
     copied = surface.Area();
@@ -50,7 +57,7 @@ void SurfaceView::Show(const Raster& surface, const PixelRect& changed) {
 }
 
 void SurfaceView::paintEvent(QPaintEvent* event) {
-  if (Paint) Paint();
+  if (Paint && !cleared_) Paint();
   QPainter painter(this);
   // Every unit is a square of the same size where the scale allows it.
   painter.setRenderHint(QPainter::SmoothPixmapTransform, !IsWhole(devicePixelRatioF()));

@@ -8,7 +8,7 @@
 
 // Shows the simulation area: a copy of the surface at its top left corner, one pixel of it a
 // logical pixel at every scale of the screen, and the picture box's back colour beside it. Takes
-// the picture box's Blt and watches its BackColor.
+// the picture box's Blt and Cls and watches its BackColor.
 class SurfaceView : public QWidget {
  public:
   explicit SurfaceView(PictureBox& box, QWidget* parent = nullptr);
@@ -26,4 +26,6 @@ class SurfaceView : public QWidget {
  private:
   PictureBox& box_;
   QImage picture_;
+  // Nothing is to be seen until somebody shows the surface again.
+  bool cleared_ = false;
 };
