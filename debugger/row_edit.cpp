@@ -108,6 +108,16 @@ void txtDebug_LostFocus() {
   if (txtDebug.Visible) TakeEditOver();
 }
 
+void txtDebug_Follow() {
+  if (!txtDebug.Visible || !HasRow(EditRow)) return;
+  // Whoever scrolls may be at work on the current cell.
+  const int row = DebugWindow.Row;
+  const int column = DebugWindow.Col;
+  DebugWindow.Select(EditRow, kTextColumn);
+  PlaceEditBox();
+  DebugWindow.Select(row, column);
+}
+
 void ResetRowEdit() {
   EditRow = 0;
 }

@@ -20,6 +20,9 @@ void txtDebug_KeyUp(std::int16_t keyCode, std::int16_t shift);
 // read or replace the program while the edit box may still be open.
 void txtDebug_LostFocus();
 
+// Keeps an open edit over its row when the grid has been scrolled.
+void txtDebug_Follow();
+
 void ResetRowEdit();
 
 }  // namespace frmMain
