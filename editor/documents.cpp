@@ -65,6 +65,19 @@ void FillRows() {
   TextChanged = kFalse;
 }
 
+void ShowProgram(const std::string& path) {
+  std::string reason;
+  if (!LoadFile(path, reason)) {
+    ShowError(reason);
+    return;
+  }
+  ColourText();
+  EnableCommands("Start,Print,Step", true);
+  ShowName(path);
+  UpdateRecentFiles(path, -1);
+  FillRows();
+}
+
 }  // namespace
 
 void mnuFileNew_Click() {
@@ -82,17 +95,11 @@ void mnuFileNew_Click() {
 void mnuFileOpen_Click() {
   if (!MayDropDocument()) return;
   PrepareFileDialog();
-  if (!com.ShowOpen()) return;
-  std::string reason;
-  if (!LoadFile(com.FileName, reason)) {
-    ShowError(reason);
-    return;
-  }
-  ColourText();
-  EnableCommands("Start,Print,Step", true);
-  ShowName(com.FileName);
-  UpdateRecentFiles(com.FileName, -1);
-  FillRows();
+  if (com.ShowOpen()) ShowProgram(com.FileName);
+}
+
+void OpenProgram(const std::string& path) {
+  if (MayDropDocument()) ShowProgram(path);
 }
 
 void mnuFileRecentFiles_Click(std::int16_t index) {

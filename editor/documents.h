@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 
 // The life of the one document that is edited at a time. Its text is that of TextEditor, its name
 // the panel "FileName", its path key "0" of the recent list, its modified mark the Enabled of the
@@ -22,6 +23,8 @@ extern std::int16_t WindowClosed;
 // that didn't happen, ends them.
 void mnuFileNew_Click();
 void mnuFileOpen_Click();
+// As Open, with a file that the user has chosen elsewhere.
+void OpenProgram(const std::string& path);
 // The entry `index` of mnuFileRecentFiles.
 void mnuFileRecentFiles_Click(std::int16_t index);
 void mnuFileSave_Click();
