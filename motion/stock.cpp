@@ -2,6 +2,8 @@
 
 #include <cstdlib>
 #include <new>
+#include <optional>
+#include <string>
 
 #include "interpreter/machine.h"
 #include "mainwindow/control_surface.h"
@@ -50,6 +52,23 @@ void MarkShoulder(int column, int top) {
   }
 }
 
+// Where the tool stands, as the panel tells it.
+std::optional<int> toolZ;
+int toolX = 0;
+
+// A length of so many tenths of a millimetre in millimetres, with one decimal.
+std::string Millimetres(int tenths) {
+  const std::string sign = tenths < 0 ? "-" : "";
+  return sign + DecimalText(std::abs(tenths) / 10) + "." + DecimalText(std::abs(tenths) % 10);
+}
+
+// As it is programmed: X is a diameter.
+void ShowToolPosition() {
+  if (!toolZ) return;
+  frmMain::StatusBar.Panels("ToolPosition").Text =
+      "X " + Millimetres(2 * toolX) + "  Z " + Millimetres(*toolZ);
+}
+
 }  // namespace
 
 void CreateSurface() {
@@ -79,6 +98,8 @@ void InitStock(std::int16_t z, std::int16_t x) {
 }
 
 void MoveTool(int z, int x) {
+  toolZ = z;
+  toolX = x;
   CutProfile(z, x);
   const PixelPoint from{LastToolX, LastToolY};
   const int column = BilletZ + z;
@@ -88,6 +109,7 @@ void MoveTool(int z, int x) {
 }
 
 void DrawSurface() {
+  ShowToolPosition();
   if (!frmMain::picSim.Blt) return;
   const Raster& surface = StockDC.Read();
   frmMain::picSim.Blt(surface, StockDC.TakeChanged());
@@ -107,6 +129,7 @@ void ApplyEffect() {
 }
 
 void ResetStock() {
+  toolZ.reset();
   StockProfile.clear();
   FreeToolDCs();
   ToolWidth = 0;

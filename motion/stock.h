@@ -46,7 +46,7 @@ void InitStock(std::int16_t z, std::int16_t x);
 // Writes StockProfile, StockDC, LastToolX, LastToolY.
 void MoveTool(int z, int x);
 
-// Copies what has changed of the surface to picSim.
+// Copies what has changed of the surface to picSim, and the tool's position to its panel.
 void DrawSurface();
 
 // Draws a line in EffectColor across each shoulder that faces right, then calls DrawSurface.
