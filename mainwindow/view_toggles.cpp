@@ -96,4 +96,8 @@ void mnuToolBarShowLabels_Click() {
   StoreMark("Toolbar", "ShowLabels", mnuToolBarShowLabels);
 }
 
+void mnuToolsPlaySound_Click() {
+  Invert(mnuToolsPlaySound);
+}
+
 }  // namespace frmMain

@@ -20,6 +20,9 @@ void mnuViewDebugWindow_Click();
 // Yields.
 void mnuToolBarShowLabels_Click();
 
+// Sound wanted or not; never stored.
+void mnuToolsPlaySound_Click();
+
 // How a check mark is stored.
 constexpr const char* FlagText(bool flag) {
   return flag ? "True" : "False";
