@@ -2,9 +2,12 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QProcess>
 #include <QWidget>
 #include <chrono>
 #include <thread>
+
+#include "platform/qt/paths.h"
 
 namespace Desktop {
 
@@ -49,6 +52,10 @@ void SendKeys(const std::string& keys) {
     const auto key = static_cast<Qt::Key>(character.toUpper().unicode());
     PostKey(receiver, key, character.isUpper() ? Qt::ShiftModifier : Qt::NoModifier, character);
   }
+}
+
+bool StartProgram(const std::string& program, const std::string& path) {
+  return QProcess::startDetached(QString::fromStdString(program), {ResolvePath(path)});
 }
 
 // Unlike quit(), this asks no window.

@@ -61,6 +61,11 @@ void ShowSplash() {}
 // No control has the focus.
 void SendKeys(const std::string& /*keys*/) {}
 
+// Nothing that has a window is started.
+bool StartProgram(const std::string& /*program*/, const std::string& /*path*/) {
+  return false;
+}
+
 // It ends when its program has been played.
 void EndProgram() {}
 

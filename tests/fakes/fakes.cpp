@@ -248,6 +248,10 @@ void SendKeys(const std::string& keys) {
   world.keyQueue.push_back(keys);
 }
 
+bool StartProgram(const std::string& /*program*/, const std::string& /*path*/) {
+  return false;
+}
+
 void EndProgram() {
   world.ended = true;
 }

@@ -1,0 +1,40 @@
+#include "mainwindow/print_listing.h"
+
+#include <QApplication>
+#include <QPrintDialog>
+#include <QPrinter>
+
+#include "mainwindow/control_surface.h"
+#include "mainwindow/listing.h"
+#include "platform/desktop.h"
+#include "settings/settings.h"
+
+namespace frmMain {
+
+namespace {
+
+constexpr double kMarginMillimetres = 15;
+
+Listing EditorListing() {
+  QFont font(QString::fromStdString(TextEditor().Font.Name),
+             GlobalVariables::Settings.EditorFontSize);
+  font.setBold(GlobalVariables::Settings.EditorFontBold != 0);
+  return {QString::fromStdString(StatusBar.Panels("FileName").Text), TextEditor().TextRTF(), font};
+}
+
+}  // namespace
+
+void mnuFilePrint_Click() {
+  const Listing listing = EditorListing();
+  QPrinter printer(QPrinter::HighResolution);
+  printer.setDocName(listing.title);
+  constexpr double margin = kMarginMillimetres;
+  printer.setPageMargins({margin, margin, margin, margin}, QPageLayout::Millimeter);
+  QPrintDialog dialog(&printer, QApplication::activeWindow());
+  if (dialog.exec() != QDialog::Accepted) return;
+  if (!PrintListing(listing, printer)) {
+    Desktop::MessageBox("The program can't be printed.", Desktop::kCritical, "Error!");
+  }
+}
+
+}  // namespace frmMain
