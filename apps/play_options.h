@@ -6,15 +6,22 @@
 #include <optional>
 #include <string>
 
+struct PictureSize {
+  // Pixels, from 1 to 16,384.
+  std::int16_t width = 0;
+  std::int16_t height = 0;
+};
+
 // The command line of turnbay-play.
 struct PlayOptions {
-  // Simulation area in pixels.
-  std::int16_t width = 1000;
-  std::int16_t height = 640;
+  // The simulation area, and the picture of the turned part.
+  PictureSize size;
+  PictureSize turnedPartSize;
   // Empty: not asked for; a tool folder of its own.
   std::string tools;
   std::string picture;
   std::string profile;
+  std::string turnedPart;
   // "-" is standard output.
   std::string report;
   bool runToBreakpoint = false;

@@ -156,10 +156,10 @@ std::string ProfileCsv() {
   return csv;
 }
 
-QByteArray SurfacePng(const Raster& surface) {
+QByteArray RasterPng(const Raster& picture) {
   QByteArray bytes;
   QBuffer buffer(&bytes);
   buffer.open(QIODevice::WriteOnly);
-  ToImage(surface).save(&buffer, "PNG");
+  ToImage(picture).save(&buffer, "PNG");
   return bytes;
 }

@@ -24,5 +24,5 @@ QByteArray ReportJson(const PlayOutcome& outcome);
 // One line a column: z in mm, radius in mm, taper mark.
 std::string ProfileCsv();
 
-// The surface as a PNG file's bytes.
-QByteArray SurfacePng(const Raster& surface);
+// A picture as a PNG file's bytes.
+QByteArray RasterPng(const Raster& picture);

@@ -8,6 +8,7 @@
 
 #include "apps/play_options.h"
 #include "apps/play_report.h"
+#include "apps/turned_part_picture.h"
 #include "debugger/run_commands.h"
 #include "editor/colouring.h"
 #include "editor/program_file.h"
@@ -49,8 +50,8 @@ void ShowSimulationAlone() {
 
 void StartUp(const PlayOptions& options) {
   ShowSimulationAlone();
-  frmMain::ScaleWidth = options.width;
-  frmMain::ScaleHeight = options.height;
+  frmMain::ScaleWidth = options.size.width;
+  frmMain::ScaleHeight = options.size.height;
   frmMain::Form_Load();
   frmMain::Form_Resize();
   GlobalVariables::SetToolFolder(options.tools);
@@ -136,13 +137,26 @@ std::string_view View(const QByteArray& bytes) {
   return {bytes.constData(), static_cast<std::size_t>(bytes.size())};
 }
 
+bool WriteTurnedPart(const PlayOptions& options) {
+  const auto [width, height] = options.turnedPartSize;
+  Raster picture;
+  std::string reason;
+  if (!DrawTurnedPart(width, height, picture, reason)) {
+    SayTrouble(options.turnedPart + ": " + reason);
+    return false;
+  }
+  return WriteFile(options.turnedPart, View(RasterPng(picture)));
+}
+
 bool WriteResults(const PlayOptions& options, const PlayOutcome& outcome) {
   bool written = true;
   if (!options.picture.empty()) {
-    written &= WriteFile(options.picture, View(SurfacePng(Graphics::StockDC.Read())));
+    written &= WriteFile(options.picture, View(RasterPng(Graphics::StockDC.Read())));
   }
   if (!options.profile.empty()) written &= WriteFile(options.profile, ProfileCsv());
   if (!options.report.empty()) written &= WriteFile(options.report, View(ReportJson(outcome)));
+  // Last: it alone asks for OpenGL, which some machines lack.
+  if (!options.turnedPart.empty()) written &= WriteTurnedPart(options);
   return written;
 }
 

@@ -1,5 +1,7 @@
 #include "platform/qt/key_codes.h"
 
+#include <span>
+
 namespace {
 
 // Keys from `first` to `last` have the codes from `code` on.
@@ -22,21 +24,30 @@ constexpr KeyRange kKeyRanges[] = {
     // The same key with Shift, on a common layout.
     {Qt::Key_BraceLeft, Qt::Key_BraceLeft, 219},
 };
-constexpr int kNumberPadZero = 96;
+constexpr KeyRange kNumberPadRanges[] = {
+    {Qt::Key_0, Qt::Key_9, 96},
+    {Qt::Key_Plus, Qt::Key_Plus, 107},
+    {Qt::Key_Minus, Qt::Key_Minus, 109},
+};
 
-}  // namespace
-
-std::int16_t VirtualKey(const QKeyEvent& event) {
-  const int key = event.key();
-  if (event.modifiers().testFlag(Qt::KeypadModifier) && key >= Qt::Key_0 && key <= Qt::Key_9) {
-    return static_cast<std::int16_t>(kNumberPadZero + key - Qt::Key_0);
-  }
-  for (const KeyRange& range : kKeyRanges) {
+// 0 when the key is in none of the ranges.
+std::int16_t CodeIn(std::span<const KeyRange> ranges, int key) {
+  for (const KeyRange& range : ranges) {
     if (key >= range.first && key <= range.last) {
       return static_cast<std::int16_t>(range.code + key - range.first);
     }
   }
   return 0;
+}
+
+}  // namespace
+
+std::int16_t VirtualKey(const QKeyEvent& event) {
+  if (event.modifiers().testFlag(Qt::KeypadModifier)) {
+    const std::int16_t code = CodeIn(kNumberPadRanges, event.key());
+    if (code != 0) return code;
+  }
+  return CodeIn(kKeyRanges, event.key());
 }
 
 std::int16_t ShiftState(const QKeyEvent& event) {

@@ -1,0 +1,209 @@
+#include "view3d/frm_3d.h"
+
+#include <QCoreApplication>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QScreen>
+#include <algorithm>
+#include <chrono>
+
+#include "editor/documents.h"
+#include "platform/desktop.h"
+#include "platform/qt/key_codes.h"
+
+namespace {
+
+constexpr int kEscape = 27;
+constexpr int kX = 88;
+constexpr int kNumberPadPlus = 107;
+constexpr int kNumberPadMinus = 109;
+constexpr int kF5 = 116;
+constexpr int kF6 = 117;
+
+// A key of the number pad adds degrees to an angle; 0 sets it back to 0.
+struct TurnKey {
+  int keyCode;
+  double TurnedPart::*angle;
+  double degrees;
+};
+
+constexpr TurnKey kTurnKeys[] = {
+    {96, &TurnedPart::RotX, 0},   {96, &TurnedPart::RotY, 0},   {96, &TurnedPart::RotZ, 0},
+    {97, &TurnedPart::RotX, 3},   {98, &TurnedPart::RotY, 3},   {99, &TurnedPart::RotZ, 3},
+    {100, &TurnedPart::RotX, -3}, {101, &TurnedPart::RotY, -3}, {102, &TurnedPart::RotZ, -3},
+    {103, &TurnedPart::RotX, 0},  {104, &TurnedPart::RotY, 0},  {105, &TurnedPart::RotZ, 0},
+};
+
+// The pace of the spin on every machine that can keep it, and of most screens.
+constexpr std::chrono::microseconds kSpinTurn{1'000'000 / 60};
+
+// Null while frm3D isn't loaded.
+TurnedPartWindow* loaded = nullptr;
+
+QSurfaceFormat Format() {
+  QSurfaceFormat format;
+  format.setRenderableType(QSurfaceFormat::OpenGL);
+  format.setProfile(QSurfaceFormat::CompatibilityProfile);
+  format.setSwapBehavior(QSurfaceFormat::DoubleBuffer);
+  format.setRedBufferSize(8);
+  format.setGreenBufferSize(8);
+  format.setBlueBufferSize(8);
+  format.setDepthBufferSize(16);
+  return format;
+}
+
+// False when the key turns nothing.
+bool Turn(TurnedPart& part, int keyCode) {
+  bool turns = false;
+  for (const TurnKey& key : kTurnKeys) {
+    if (key.keyCode != keyCode) continue;
+    double& angle = part.*key.angle;
+    angle = key.degrees == 0 ? 0 : angle + key.degrees;
+    turns = true;
+  }
+  return turns;
+}
+
+}  // namespace
+
+TurnedPartWindow::TurnedPartWindow() {
+  setObjectName("frm3D");
+  setTitle("3D");
+  setFlags(Qt::Window | Qt::FramelessWindowHint);
+  setSurfaceType(QSurface::OpenGLSurface);
+  setFormat(Format());
+  // Where the user is; the whole of it even where nothing heeds the wish to be maximized.
+  if (const QWindow* user = QGuiApplication::focusWindow()) setScreen(user->screen());
+  setGeometry(screen()->geometry());
+  // The context has to go before the platform does.
+  QObject::connect(qApp, &QCoreApplication::aboutToQuit, this, &QWindow::close);
+}
+
+void TurnedPartWindow::Form_Load() {
+  if (!part_.Initialize([this] { return MakeContext(); })) {
+    Desktop::MessageBox("ChoosePixelFormat failed");
+  }
+}
+
+bool TurnedPartWindow::MakeContext() {
+  create();
+  auto context = std::make_unique<QOpenGLContext>();
+  context->setFormat(Format());
+  // A context without the fixed pipeline would draw nothing.
+  if (!context->create() || context->isOpenGLES() ||
+      context->format().profile() == QSurfaceFormat::CoreProfile || !context->makeCurrent(this)) {
+    return false;
+  }
+  context_ = std::move(context);
+  part_.SwapBuffers = [this] {
+    if (isExposed()) context_->swapBuffers(this);
+  };
+  return true;
+}
+
+bool TurnedPartWindow::UseContext() {
+  return context_ != nullptr && context_->makeCurrent(this);
+}
+
+void TurnedPartWindow::DrawAnew() {
+  if (!UseContext()) return;
+  part_.DrawWorld();
+  part_.Display();
+}
+
+void TurnedPartWindow::Zoom(double degrees) {
+  part_.FieldOfView += degrees;
+  if (!UseContext()) return;
+  part_.SetPerspective();
+  part_.Display();
+}
+
+void TurnedPartWindow::Spin() {
+  Spinning = kTrue;
+  // A second F5 within a yield; the loop below on the stack goes on.
+  if (spinLoopRuns_) return;
+  spinLoopRuns_ = true;
+  using Clock = std::chrono::steady_clock;
+  Clock::time_point nextTurn = Clock::now();
+  while (Spinning == kTrue && frmMain::WindowClosed == kFalse) {
+    part_.RotY -= 1;
+    DrawAnew();
+    const Clock::time_point now = Clock::now();
+    nextTurn = std::max(nextTurn + kSpinTurn, now);
+    const auto wait = std::chrono::ceil<std::chrono::milliseconds>(nextTurn - now);
+    Desktop::Sleep(static_cast<int>(wait.count()));
+    Desktop::Yield();
+  }
+  spinLoopRuns_ = false;
+}
+
+void TurnedPartWindow::Form_KeyDown(int keyCode) {
+  switch (keyCode) {
+    case kEscape:
+      close();
+      return;
+    case kNumberPadPlus:
+      Zoom(-1);
+      return;
+    case kNumberPadMinus:
+      Zoom(1);
+      return;
+    case kF6:
+      Spinning = kFalse;
+      return;
+    case kF5:
+      Spin();
+      break;
+    case kX:
+      part_.ShowAxes = static_cast<std::int16_t>(~part_.ShowAxes);
+      break;
+    default:
+      if (!Turn(part_, keyCode)) return;
+  }
+  DrawAnew();
+}
+
+void TurnedPartWindow::keyPressEvent(QKeyEvent* event) {
+  Form_KeyDown(VirtualKey(*event));
+}
+
+void TurnedPartWindow::exposeEvent(QExposeEvent* /*event*/) {
+  if (isExposed() && UseContext()) part_.Display();
+}
+
+// A window that grows is exposed as well, which draws it.
+void TurnedPartWindow::resizeEvent(QResizeEvent* /*event*/) {
+  const QSize pixels = size() * devicePixelRatio();
+  if (UseContext()) {
+    part_.OnSize(pixels.width(), pixels.height());
+    if (pixels.width() <= lastSize_.width() && pixels.height() <= lastSize_.height()) {
+      part_.Display();
+    }
+  }
+  lastSize_ = pixels;
+}
+
+// Handlers of this window may still be on the stack: it is deleted when they have returned.
+void TurnedPartWindow::closeEvent(QCloseEvent* /*event*/) {
+  Spinning = kFalse;
+  if (context_ != nullptr) context_->doneCurrent();
+  context_.reset();
+  loaded = nullptr;
+  deleteLater();
+}
+
+namespace frmMain {
+
+void mnuView3DWindow_Click() {
+  if (loaded == nullptr) {
+    loaded = new TurnedPartWindow;
+    loaded->Form_Load();
+    // Closed again, by the end of the program behind a message box.
+    if (loaded == nullptr) return;
+  }
+  loaded->showMaximized();
+  loaded->raise();
+  loaded->requestActivate();
+}
+
+}  // namespace frmMain

@@ -1,0 +1,73 @@
+#include "view3d/off_screen.h"
+
+#include <EGL/egl.h>
+#include <EGL/eglext.h>
+#include <GL/gl.h>
+#include <cstdlib>
+
+namespace {
+
+constexpr EGLint kConfig[] = {EGL_SURFACE_TYPE,
+                              EGL_PBUFFER_BIT,
+                              EGL_RENDERABLE_TYPE,
+                              EGL_OPENGL_BIT,
+                              EGL_RED_SIZE,
+                              8,
+                              EGL_GREEN_SIZE,
+                              8,
+                              EGL_BLUE_SIZE,
+                              8,
+                              EGL_DEPTH_SIZE,
+                              16,
+                              EGL_NONE};
+constexpr Colour kWithoutAlpha = 0xFFFFFF;
+
+}  // namespace
+
+bool OffScreen::Create(int width, int height, std::string& reason) {
+  setenv("LIBGL_ALWAYS_SOFTWARE", "1", 0);
+  display_ = eglGetPlatformDisplay(EGL_PLATFORM_SURFACELESS_MESA, nullptr, nullptr);
+  if (eglInitialize(display_, nullptr, nullptr) == EGL_FALSE ||
+      eglBindAPI(EGL_OPENGL_API) == EGL_FALSE) {
+    reason = "OpenGL without a display isn't available here.";
+    return false;
+  }
+  EGLConfig config = nullptr;
+  EGLint count = 0;
+  eglChooseConfig(display_, kConfig, &config, 1, &count);
+  EGLContext context = EGL_NO_CONTEXT;
+  if (count > 0) context = eglCreateContext(display_, config, EGL_NO_CONTEXT, nullptr);
+  if (context == EGL_NO_CONTEXT) {
+    reason = "OpenGL has no fixed pipeline here.";
+    return false;
+  }
+  const EGLint size[] = {EGL_WIDTH, width, EGL_HEIGHT, height, EGL_NONE};
+  EGLSurface surface = eglCreatePbufferSurface(display_, config, size);
+  if (surface == EGL_NO_SURFACE ||
+      eglMakeCurrent(display_, surface, surface, context) == EGL_FALSE) {
+    reason = "OpenGL can't draw a picture of " + std::to_string(width) + "x" +
+             std::to_string(height) + " pixels here.";
+    return false;
+  }
+  width_ = width;
+  height_ = height;
+  return true;
+}
+
+OffScreen::~OffScreen() {
+  if (display_ == EGL_NO_DISPLAY) return;
+  eglMakeCurrent(display_, EGL_NO_SURFACE, EGL_NO_SURFACE, EGL_NO_CONTEXT);
+  // Takes surface and context along.
+  eglTerminate(display_);
+}
+
+Raster OffScreen::Read() const {
+  Raster picture(width_, height_);
+  for (int y = 0; y < height_; ++y) {
+    Colour* row = picture.Row(y);
+    // OpenGL counts its rows from below; red comes first, as in a Colour.
+    glReadPixels(0, height_ - 1 - y, width_, 1, GL_RGBA, GL_UNSIGNED_INT_8_8_8_8_REV, row);
+    for (int x = 0; x < width_; ++x) row[x] &= kWithoutAlpha;
+  }
+  return picture;
+}
