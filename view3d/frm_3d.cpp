@@ -135,6 +135,7 @@ void TurnedPartWindow::Spin() {
     Desktop::Yield();
   }
   spinLoopRuns_ = false;
+  if (loaded != this) deleteLater();
 }
 
 void TurnedPartWindow::Form_KeyDown(int keyCode) {
@@ -183,13 +184,13 @@ void TurnedPartWindow::resizeEvent(QResizeEvent* /*event*/) {
   lastSize_ = pixels;
 }
 
-// Handlers of this window may still be on the stack: it is deleted when they have returned.
 void TurnedPartWindow::closeEvent(QCloseEvent* /*event*/) {
   Spinning = kFalse;
   if (context_ != nullptr) context_->doneCurrent();
   context_.reset();
   loaded = nullptr;
-  deleteLater();
+  // A spin on the stack still needs the window.
+  if (!spinLoopRuns_) deleteLater();
 }
 
 namespace frmMain {

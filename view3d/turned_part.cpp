@@ -93,7 +93,7 @@ std::int16_t DrawColumns(GLUquadric* quadric) {
       segment.columns = 0;
     } else if (column.Radius != next.Radius && column.TaperMark == 0) {
       Emit(quadric, segment);
-      if (i != 0) segment.startRadius = next.Radius;
+      segment.startRadius = next.Radius;
       if (segment.columns > kShortColumns) DrawDisk(quadric, next.Radius);
       segment.columns = 0;
     }

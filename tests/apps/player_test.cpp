@@ -81,8 +81,15 @@ TEST_F(PlayerTest, WritesProfileAndReportWithTheToolsOfAnotherFolder) {
   EXPECT_EQ(1, report["resumes"].toInt());
   EXPECT_EQ("z_mm,radius_mm,taper\n0,1.5,0\n-0.1,1.5,0\n-0.2,2,0\n", Bytes("p.csv"));
   // Run to break point shows nothing, yet leaves the same picture of these feed moves.
-  EXPECT_EQ(0, Run(options + QStringList{"--run-to-breakpoint", "--tools", "."}));
+  EXPECT_EQ(0, Run(options + QStringList{"--run-to-breakpoint", "--tools", ".", "--turned-part",
+                                         "p.png", "--turned-part-size", "60x40"}));
   EXPECT_EQ(report["surface_sha256"], Report()["surface_sha256"]);
+  EXPECT_EQ(std::string("\0\0\0<\0\0\0(", 8), Bytes("p.png").substr(16, 8)) << "60 by 40 pixels";
+  // Without OpenGL all else is written.
+  qputenv("__EGL_VENDOR_LIBRARY_FILENAMES", "/none");
+  EXPECT_EQ(2, Run(options + QStringList{"--turned-part", "p.png"}));
+  EXPECT_TRUE(err_.contains("p.png: OpenGL") && !Report().isEmpty()) << err_.toStdString();
+  qunsetenv("__EGL_VENDOR_LIBRARY_FILENAMES");
 }
 
 }  // namespace
