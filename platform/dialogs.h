@@ -2,8 +2,10 @@
 
 #include <string>
 
+#include "platform/colour.h"
+
 // The common dialog control. Set its members, show it, read them. The linker picks the bodies of
-// the two routines.
+// the routines.
 struct CommonDialog {
   // Overwrite prompt (2), no change of directory (8), path must exist (2048), file must exist
   // (4096).
@@ -23,4 +25,10 @@ struct CommonDialog {
   // chosen, or unchanged when a Cancel is no error.
   bool ShowOpen();
   bool ShowSave();
+
+  // What the colour dialog begins with and what was chosen in it last.
+  Colour Color = 0;
+  // Shows the colour dialog modally. After a Cancel, which is never an error, it returns false and
+  // Color is as it was.
+  bool ShowColor();
 };

@@ -1,8 +1,11 @@
 #include "platform/dialogs.h"
 
 #include <QApplication>
+#include <QColorDialog>
 #include <QFileDialog>
 #include <QFileInfo>
+
+#include "platform/qt/colours.h"
 
 namespace {
 
@@ -50,4 +53,11 @@ bool CommonDialog::ShowOpen() {
 
 bool CommonDialog::ShowSave() {
   return Show(*this, QFileDialog::AcceptSave);
+}
+
+bool CommonDialog::ShowColor() {
+  QColorDialog dialog(ToQColor(Color), QApplication::activeWindow());
+  if (dialog.exec() != QDialog::Accepted) return false;
+  Color = FromQColor(dialog.selectedColor());
+  return true;
 }

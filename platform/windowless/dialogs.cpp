@@ -1,6 +1,6 @@
 #include "platform/dialogs.h"
 
-// Nobody is there to choose a file: every dialog is cancelled.
+// Nobody is there to choose: every dialog is cancelled.
 
 bool CommonDialog::ShowOpen() {
   return !CancelError;
@@ -8,4 +8,8 @@ bool CommonDialog::ShowOpen() {
 
 bool CommonDialog::ShowSave() {
   return !CancelError;
+}
+
+bool CommonDialog::ShowColor() {
+  return false;
 }

@@ -271,6 +271,10 @@ bool CommonDialog::ShowSave() {
   return AnswerDialog(false, *this);
 }
 
+bool CommonDialog::ShowColor() {
+  return false;
+}
+
 std::string GetSetting(std::string_view application, std::string_view section, std::string_view key,
                        std::string_view defaultText) {
   EXPECT_EQ("CNC", application);
