@@ -18,13 +18,21 @@ namespace {
 
 constexpr Colour kLineColour = Rgb(192, 192, 192);
 constexpr Colour kEmptyAreaColour = Rgb(68, 102, 166);
-constexpr int kTwipsPerPixel = 15;
 constexpr QSize kPictureSize(19, 18);
 // Pixels between the edge of a cell and its text.
 constexpr int kTextMargin = 2;
 
 int Pixels(int twips) {
-  return std::max(twips / kTwipsPerPixel, 0);
+  return std::max(twips / GridView::kTwipsPerPixel, 0);
+}
+
+QFont FontOf(const GridTable& table, int row, int column, QFont font) {
+  const CellFormat& format = table.Format(row, column);
+  const std::string& name = table.FontNameOf(format);
+  if (!name.empty()) font.setFamilies({QString::fromStdString(name)});
+  if (format.FontSize > 0) font.setPointSize(format.FontSize);
+  font.setBold(format.FontBold);
+  return font;
 }
 
 // Along the right and the lower edge.
@@ -51,7 +59,7 @@ class CellPainter : public QStyledItemDelegate {
     if (table_.GridLines() != 0) DrawLines(*painter, option.rect);
     DrawPicture(*painter, option.rect, format);
     painter->setPen(ToQColor(format.ForeColor));
-    painter->setFont(FontOf(format, option.font));
+    painter->setFont(FontOf(table_, index.row(), index.column(), option.font));
     painter->drawText(option.rect.adjusted(kTextMargin, 0, -kTextMargin, 0),
                       Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine,
                       CellText(table_, index.row(), index.column()));
@@ -64,13 +72,6 @@ class CellPainter : public QStyledItemDelegate {
     QRect place(cell.topLeft(), kPictureSize);
     if (format.PictureAlignment == kCentred) place.moveCenter(cell.center());
     pictures_[static_cast<std::size_t>(format.Picture)].paint(&painter, place);
-  }
-  QFont FontOf(const CellFormat& format, QFont font) const {
-    const std::string& name = table_.FontNameOf(format);
-    if (!name.empty()) font.setFamilies({QString::fromStdString(name)});
-    if (format.FontSize > 0) font.setPointSize(format.FontSize);
-    font.setBold(format.FontBold);
-    return font;
   }
 
   const GridTable& table_;
@@ -94,7 +95,7 @@ class LineNumbers : public QHeaderView {
     if (table_.GridLines() != 0) DrawLines(*painter, rect);
     const QString number = CellText(table_, row, 0);
     const QRect space = rect.adjusted(kTextMargin, 0, -kTextMargin, 0);
-    QFont numberFont = font();
+    QFont numberFont = FontOf(table_, row, 0, font());
     const int width = QFontMetrics(numberFont).horizontalAdvance(number);
     // A long number stays whole in a narrow column.
     if (width > space.width()) {
@@ -110,6 +111,24 @@ class LineNumbers : public QHeaderView {
     if (end >= viewport()->height()) return;
     QPainter(viewport())
         .fillRect(0, end, width(), viewport()->height() - end, ToQColor(kEmptyAreaColour));
+  }
+
+ private:
+  const GridTable& table_;
+};
+
+// The fixed row.
+class Head : public QHeaderView {
+ public:
+  Head(const GridTable& table, QWidget* parent)
+      : QHeaderView(Qt::Horizontal, parent), table_(table) {
+    setMinimumSectionSize(1);
+  }
+
+ protected:
+  void paintSection(QPainter* painter, const QRect& rect, int /*column*/) const override {
+    painter->fillRect(rect, palette().button());
+    if (table_.GridLines() != 0) DrawLines(*painter, rect);
   }
 
  private:
@@ -166,6 +185,12 @@ GridView::~GridView() {
   table_.Watch({});
   table_.TopRow.Watch({});
   table_.ToolTipText.Watch({});
+}
+
+void GridView::FixFirstRow() {
+  hasFixedRow_ = true;
+  setHorizontalHeader(new Head(table_, this));
+  ApplyLayout();
 }
 
 void GridView::mousePressEvent(QMouseEvent* event) {
@@ -229,6 +254,10 @@ void GridView::ApplyLayout() {
   for (int row = 1; row < table_.Rows(); ++row) {
     const int own = Pixels(table_.RowHeight(row));
     if (own != height || own != rowHeight(row)) setRowHeight(row, own);
+  }
+  if (hasFixedRow_) {
+    horizontalHeader()->setFixedHeight(Pixels(table_.RowHeight(0)));
+    setRowHidden(0, true);
   }
   if (!table_.FontName().empty()) {
     QFont own = font();

@@ -12,9 +12,14 @@ class GridModel;
 // those of TopRow and ToolTipText; whoever lays the window out watches Visible and Bounds.
 class GridView : public QTableView {
  public:
+  static constexpr int kTwipsPerPixel = 15;
+
   // The marks are Break.png, Step.png and Both.png in a folder of files or resources.
   GridView(GridTable& table, const QString& pictureFolder, QWidget* parent = nullptr);
   ~GridView() override;
+
+  // Row 0 becomes an empty head that stands still.
+  void FixFirstRow();
 
   // Both are called when the table's MouseRow and MouseCol tell where. The first click of a double
   // click has been a click before.
@@ -40,4 +45,5 @@ class GridView : public QTableView {
   GridTable& table_;
   GridModel* model_;
   bool applying_ = false;
+  bool hasFixedRow_ = false;
 };
