@@ -10,9 +10,13 @@ grid/     marks of the program grid, 19 by 18, opaque
 icon/     the application icon in its sizes, the small ones drawn simpler
 splash.png, 544 by 355; the program writes its version, in a light colour, into
           the dark area at the lower left, below the name
+options.png, tool_library.png
+          along the left side and the top of these dialogs
+sample_tool.png
+          the tool in the sample of the options
 
 Pictures named @2x have twice the size, for dense screens. What they show is
-drawn in icon_drawing.py and brand_drawing.py.
+drawn in icon_drawing.py, brand_drawing.py and dialog_drawing.py.
 """
 
 import subprocess
@@ -23,6 +27,7 @@ import cairo
 
 from brand_drawing import (draw_large_icon, draw_medium_icon, draw_small_icon,
                            draw_splash)
+from dialog_drawing import DIALOG_PICTURES
 from icon_drawing import GRID_MARKS, TOOL_BAR, disabled, picture
 
 PICTURES = Path(__file__).parent / "pictures"
@@ -63,6 +68,13 @@ def make_splash():
                       opaque=True), f"splash{suffix}.png")
 
 
+def make_dialog_pictures():
+    for name, draw, (width, height), opaque in DIALOG_PICTURES:
+        for scale, suffix in SCALES:
+            write(picture(lambda ctx, _: draw(ctx), width, height, scale,
+                          opaque), f"{name}{suffix}.png")
+
+
 def make_application_icon():
     for draw, drawn, sizes in APPLICATION_ICON:
         for size in sizes:
@@ -86,6 +98,7 @@ def main():
     make_tool_bar()
     make_grid_marks()
     make_splash()
+    make_dialog_pictures()
     make_application_icon()
 
 
