@@ -59,14 +59,19 @@ void ShowAtRest(int row) {
   }
 }
 
+void SizeRow(int row) {
+  DebugWindow.Select(row, kTextColumn);
+  DebugWindow.SetCellFontName(Settings.DebugFontName);
+  DebugWindow.SetCellFontSize(Settings.DebugFontSize);
+  DebugWindow.SetRowHeight(row, Settings.DebugRowHeight);
+}
+
 void FillRow(int row, std::string_view line) {
   DebugWindow.SetTextMatrix(row, kLineNumberColumn, DecimalText(row + 1));
   DebugWindow.SetTextMatrix(row, kTextColumn, std::string(line));
   DebugWindow.SetTextMatrix(row, kBreakColumn, "");
   ColourAsNormal(row);
-  DebugWindow.SetCellFontName(Settings.DebugFontName);
-  DebugWindow.SetCellFontSize(Settings.DebugFontSize);
-  DebugWindow.SetRowHeight(row, Settings.DebugRowHeight);
+  SizeRow(row);
   SetMark(row, GridPicture::None);
   DebugWindow.SetCellBackColor(kMarkColumnColour);
 }
@@ -105,6 +110,19 @@ void ApplyDebugWindowLayout() {
   DebugWindow.SetColWidth(kBreakColumn, 0);
   DebugWindow.SetFontName(Settings.DebugFontName);
   DebugWindow.SetGridLines(Settings.DebugGrid != 0 ? 1 : 0);
+}
+
+void ApplyDebugWindowFormats() {
+  DebugWindow.SetRedraw(false);
+  for (int row = 0; row < DebugWindow.Rows(); ++row) {
+    SizeRow(row);
+    if (IsBreakPoint(row)) {
+      ColourAsBreakPoint(row);
+    } else {
+      ColourAsNormal(row);
+    }
+  }
+  DebugWindow.SetRedraw(true);
 }
 
 void HighLightExecutingLine(std::int16_t lineNum) {

@@ -14,6 +14,9 @@ void FillDebugWindow();
 // Brings the settings of the grid to its columns, font and lines.
 void ApplyDebugWindowLayout();
 
+// Brings them to the font, the height and the colours of every row. No run may be active.
+void ApplyDebugWindowFormats();
+
 // Marks a row as under execution. At a break point the run enters the paused state, and a run to a
 // break point shows its picture. A row that isn't there is passed over, here and below.
 // Writes RunToBreakpoint, TopRow and the commands.

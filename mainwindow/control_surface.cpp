@@ -76,6 +76,7 @@ ProgressGauge ProgressBar;
 SliderControl Slider;
 PictureBox picSim;
 CommonDialog com;
+std::string Tag;
 Property<std::string_view> ActiveControl;
 GridTable DebugWindow = HiddenGrid();
 TextBox txtDebug;
@@ -160,6 +161,7 @@ void ResetControlSurface() {
   }
   mnuFileRecentFiles = NoRecentFiles();
   com = {};
+  Tag.clear();
   ActiveControl = Property<std::string_view>();
   ProgressBar = {};
   Slider = {};

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 #include <string_view>
 
 #include "platform/controls.h"
@@ -79,6 +80,8 @@ extern ProgressGauge ProgressBar;
 extern SliderControl Slider;
 extern PictureBox picSim;
 extern CommonDialog com;
+// What a dialog leaves for the command that opened it: "OK", or empty.
+extern std::string Tag;
 // Name of the control with the focus. Written by the window as the user moves the focus, and by
 // the logic to move it.
 extern Property<std::string_view> ActiveControl;

@@ -83,6 +83,8 @@ class KeyedItems {
 };
 
 struct ComboBox {
+  // A number of its own for each item of List, set in front of it.
+  std::vector<int> ItemData;
   Property<std::vector<std::string>> List;
 };
 

@@ -67,14 +67,12 @@ std::optional<T> Convert(std::string_view text) {
   }
 }
 
-void LoadRow(const SettingRow& row) {
-  const std::string text = GetSetting(kApplication, row.section, row.key);
+// Leaves the field as it is when the text is no value of it.
+void SetField(Record& record, const SettingRow& row, std::string_view text) {
   std::visit(
       [&](auto field) {
-        using T = std::remove_reference_t<decltype(Settings.*field)>;
-        auto value = Convert<T>(text);
-        if (!value) value = Convert<T>(row.defaultText);
-        Settings.*field = *value;
+        using T = std::remove_reference_t<decltype(record.*field)>;
+        if (auto value = Convert<T>(text)) record.*field = *std::move(value);
       },
       row.field);
 }
@@ -84,7 +82,16 @@ void LoadRow(const SettingRow& row) {
 void LoadSettings() {
   const SettingRow& editorFont = kSettingRows.front();
   if (GetSetting(kApplication, editorFont.section, editorFont.key).empty()) WriteDefaultSettings();
-  for (const SettingRow& row : kSettingRows) LoadRow(row);
+  Settings = DefaultSettings();
+  for (const SettingRow& row : kSettingRows) {
+    SetField(Settings, row, GetSetting(kApplication, row.section, row.key));
+  }
+}
+
+SettingsRecord DefaultSettings() {
+  SettingsRecord defaults;
+  for (const SettingRow& row : kSettingRows) SetField(defaults, row, row.defaultText);
+  return defaults;
 }
 
 void WriteDefaultSettings() {

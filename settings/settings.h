@@ -67,6 +67,9 @@ extern const std::array<SettingRow, kSettingCount> kSettingRows;
 // written first. A value that is absent or can't be read takes its default. Touches no control.
 void LoadSettings();
 
+// What an unused store makes of Settings.
+SettingsRecord DefaultSettings();
+
 // Writes the default text of every row, in order, over whatever is there.
 void WriteDefaultSettings();
 

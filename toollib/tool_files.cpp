@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <numeric>
+#include <utility>
 #include <vector>
 
 #include "platform/code_page.h"
@@ -42,11 +44,18 @@ std::string ItemText(int toolNumber) {
   return "Tool " + DecimalText(toolNumber);
 }
 
-std::vector<std::string> AllItems() {
-  std::vector<std::string> items(GlobalVariables::kToolCount);
-  int n = 0;
-  for (std::string& item : items) item = ItemText(n++);
-  return items;
+std::vector<int> AllNumbers() {
+  std::vector<int> numbers(GlobalVariables::kToolCount);
+  std::iota(numbers.begin(), numbers.end(), 0);
+  return numbers;
+}
+
+void Offer(std::vector<int> numbers) {
+  std::vector<std::string> items;
+  items.reserve(numbers.size());
+  for (const int number : numbers) items.push_back(ItemText(number));
+  frmToolSelect::cmbTools.ItemData = std::move(numbers);
+  frmToolSelect::cmbTools.List = std::move(items);
 }
 
 }  // namespace
@@ -118,20 +127,20 @@ void GetToolList() {
   std::string reason;
   const auto bytes = ReadFile(ListPath(), reason);
   if (!bytes) {
-    cmbTools.List = AllItems();
+    Offer(AllNumbers());
     return;
   }
-  std::vector<std::string> items;
+  std::vector<int> numbers;
   std::array<bool, kToolCount> listed{};
   ForEachRecord(*bytes, [&](std::string_view number, std::string_view fileName) {
     const auto n = ParseInt16(number);
     if (!n || *n < 0 || *n >= kToolCount) return;
     const auto index = static_cast<std::size_t>(*n);
     ToolFiles[index] = CodePageToUtf8(fileName);
-    if (!listed[index]) items.push_back(ItemText(*n));
+    if (!listed[index]) numbers.push_back(*n);
     listed[index] = true;
   });
-  cmbTools.List = items;
+  Offer(std::move(numbers));
 }
 
 bool WriteToolList(std::string& reason) {

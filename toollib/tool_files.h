@@ -50,7 +50,8 @@ std::optional<ToolDescription> ReadToolDescription(const std::string& bitmapPath
 namespace frmToolSelect {
 
 // The tool numbers that the list file names, as "Tool 0" and so on, in the order of the file. A
-// list that was edited by hand may leave numbers out: an item's position isn't its tool number.
+// list that was edited by hand may leave numbers out: ItemData tells an item's tool number, its
+// position doesn't.
 extern ComboBox cmbTools;
 
 // Reads the list file into ToolFiles and fills cmbTools. A line that is no record is passed over;

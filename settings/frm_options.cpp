@@ -1,0 +1,119 @@
+#include "settings/frm_options.h"
+
+#include <QApplication>
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "mainwindow/control_surface.h"
+#include "platform/qt/picture_strip.h"
+#include "settings/frm_options_debug.h"
+#include "settings/frm_options_editor.h"
+#include "settings/frm_options_simulation.h"
+#include "settings/options.h"
+
+namespace frmOptions {
+
+namespace {
+
+// Pixels; larger where the font asks for it.
+constexpr QSize kSmallestSize(447, 474);
+
+QPushButton* MakeButton(const char* name, const QString& caption) {
+  auto* button = new QPushButton(caption);
+  button->setObjectName(name);
+  return button;
+}
+
+}  // namespace
+
+OptionsDialog::OptionsDialog(QWidget* parent)
+    : QDialog(parent, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                          Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint) {
+  setObjectName("frmOptions");
+  setWindowTitle("Options");
+  // Where there is no such font, the system's own.
+  QFont dialogFont = font();
+  dialogFont.setFamilies({"Tahoma", dialogFont.family()});
+  setFont(dialogFont);
+
+  editor_ = new EditorPage(working_);
+  debug_ = new DebugPage(working_);
+  simulation_ = new SimulationPage(working_);
+  // The effect colour is on two pages.
+  debug_->ColourChosen = [this] {
+    simulation_->LoadOptions();
+    simulation_->PaintSimulationSample();
+  };
+  simulation_->ColourChanged = [this] { debug_->cmbDebugColors_Click(); };
+  tabs_ = new QTabWidget;
+  tabs_->setObjectName("SSTab");
+  tabs_->addTab(editor_, "Editor");
+  tabs_->addTab(debug_, "Debug");
+  tabs_->addTab(simulation_, "Simulation");
+  connect(tabs_, &QTabWidget::currentChanged, this, [this] { SSTab_Click(); });
+
+  auto* layout = new QHBoxLayout(this);
+  layout->setContentsMargins(0, 0, layout->contentsMargins().right(), 0);
+  auto* right = new QVBoxLayout;
+  right->setContentsMargins(0, 6, 0, 6);
+  right->addWidget(tabs_);
+  layout->addLayout(right, 1);
+  layout->insertWidget(0, MakeStrip());
+  setFixedSize(sizeHint().expandedTo(kSmallestSize));
+
+  LoadWorkingColors();
+  LoadOptions();
+}
+
+QWidget* OptionsDialog::MakeStrip() {
+  auto* strip = new PictureStrip(":/pictures/options.png", Qt::Vertical);
+  strip->setObjectName("Image2");
+  QPushButton* cmdOK = MakeButton("cmdOK", "&OK");
+  QPushButton* cmdEditorCancel = MakeButton("cmdEditorCancel", "&Cancel");
+  cmdOK->setDefault(true);
+  auto* column = new QVBoxLayout(strip);
+  column->setContentsMargins(16, 16, 16, 16);
+  column->addStretch(1);
+  column->addWidget(cmdOK);
+  column->addWidget(cmdEditorCancel);
+  connect(cmdOK, &QPushButton::clicked, this, [this] { cmdOK_Click(); });
+  connect(cmdEditorCancel, &QPushButton::clicked, this, &QDialog::reject);
+  return strip;
+}
+
+void OptionsDialog::LoadWorkingColors() {
+  working_ = GlobalVariables::Settings;
+}
+
+void OptionsDialog::LoadOptions() {
+  editor_->LoadOptions();
+  debug_->LoadOptions();
+  simulation_->LoadOptions();
+}
+
+void OptionsDialog::SSTab_Click() {
+  if (tabs_->currentWidget() == debug_) debug_->PaintDebugSample();
+  if (tabs_->currentWidget() == simulation_) simulation_->PaintSimulationSample();
+}
+
+void OptionsDialog::cmdOK_Click() {
+  editor_->TakeOptions();
+  debug_->TakeOptions();
+  GlobalVariables::SaveOptions(working_);
+  GlobalVariables::LoadSettings();
+  frmMain::Tag = "OK";
+  accept();
+}
+
+}  // namespace frmOptions
+
+namespace frmMain {
+
+void mnuToolsOptions_Click() {
+  Tag.clear();
+  frmOptions::OptionsDialog(QApplication::activeWindow()).exec();
+  if (Tag == "OK") ApplyOptions();
+}
+
+}  // namespace frmMain

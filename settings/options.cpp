@@ -1,0 +1,66 @@
+#include "settings/options.h"
+
+#include <string>
+#include <type_traits>
+
+#include "debugger/debug_grid.h"
+#include "editor/colouring.h"
+#include "mainwindow/control_surface.h"
+#include "motion/stock.h"
+#include "platform/numbers.h"
+#include "platform/settings_store.h"
+
+namespace GlobalVariables {
+
+namespace {
+
+std::string TextOf(const SettingsRecord& record, const SettingField& field) {
+  return std::visit(
+      [&](auto member) -> std::string {
+        const auto& value = record.*member;
+        if constexpr (std::is_integral_v<std::remove_cvref_t<decltype(value)>>) {
+          return DecimalText(value);
+        } else {
+          return value;
+        }
+      },
+      field);
+}
+
+void Save(const SettingsRecord& options, const SettingRow& row) {
+  SaveSetting(kApplication, row.section, row.key, TextOf(options, row.field));
+}
+
+}  // namespace
+
+void SaveOptions(const SettingsRecord& options) {
+  const SettingRow* rowHeight = nullptr;
+  for (const SettingRow& row : kSettingRows) {
+    if (row.key == "RowHeight") {
+      // Unlike the defaults, it is written behind the check boxes of the grid.
+      rowHeight = &row;
+    } else if (row.key != "C0Width" || options.DebugLineNumbers != 0) {
+      Save(options, row);
+    }
+    if (row.key == "LineNumbers") Save(options, *rowHeight);
+  }
+}
+
+}  // namespace GlobalVariables
+
+namespace frmMain {
+
+void ApplyOptions() {
+  const bool saveWasEnabled = Toolbar.Buttons("Save").Enabled;
+  TextBuffer().SetText(TextEditor().Text());
+  ColourText();
+  EnableCommands("Save", saveWasEnabled);
+  Graphics::CreateSurface();
+  picSim.BackColor = GlobalVariables::Settings.SimBackColor;
+  // The old picture goes from the screen even when the colour stays.
+  if (picSim.Cls) picSim.Cls();
+  ApplyDebugWindowLayout();
+  ApplyDebugWindowFormats();
+}
+
+}  // namespace frmMain
