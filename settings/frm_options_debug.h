@@ -28,6 +28,8 @@ class DebugPage : public QWidget {
   // The swatch takes the colour of the entry that is chosen.
   void cmbDebugColors_Click();
 
+  const GridTable& Sample() const { return sample_; }
+
   // Called when the user has chosen a colour here.
   std::function<void()> ColourChosen;
 

@@ -45,6 +45,8 @@ struct SettingsRecord {
   Colour WorkPieceColor = 0;
   Colour SimBackColor = 0;
   Colour EffectColor = 0;
+
+  bool operator==(const SettingsRecord&) const = default;
 };
 
 extern SettingsRecord Settings;

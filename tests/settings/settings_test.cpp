@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/settings_store.h"
+#include "settings/options.h"
 #include "tests/fakes/fakes.h"
 
 namespace {
@@ -34,6 +35,8 @@ TEST_F(SettingsTest, AnUnusedStoreGetsEveryDefaultInOrder) {
   EXPECT_EQ(Rgb(150, 150, 255), Settings.EffectColor);
   EXPECT_EQ(285, Settings.DebugRowHeight);
   EXPECT_EQ(1, Settings.OpenLastFile);
+  GlobalVariables::SaveOptions(Settings);
+  EXPECT_EQ("Debug/RowHeight=285", saved.at(28 + 24));
 }
 
 TEST_F(SettingsTest, TheEditorFontAloneDecidesWhetherTheStoreIsUsed) {
