@@ -1,11 +1,30 @@
 #include <QApplication>
+#include <QIcon>
 
+#include "editor/documents.h"
+#include "interpreter/machine.h"
 #include "mainwindow/frm_main.h"
+
+namespace {
+
+QIcon ProgramIcon() {
+  QIcon icon;
+  for (const int size : {16, 24, 32, 48, 64, 128, 256}) {
+    icon.addFile(QString(":/pictures/icon/turnbay_%1.png").arg(size));
+  }
+  return icon;
+}
+
+}  // namespace
 
 // The desktop program.
 int main(int argc, char** argv) {
   const QApplication application(argc, argv);
-  MainWindow window;
-  window.show();
+  QApplication::setApplicationName("turnbay");
+  QApplication::setApplicationVersion(TURNBAY_VERSION);
+  QApplication::setWindowIcon(ProgramIcon());
+  frmMain::Window window;
+  window.Load();
+  if (frmMain::WindowClosed != kFalse) return 0;
   return QApplication::exec();
 }

@@ -1,0 +1,96 @@
+#include "mainwindow/frm_main_row_edit.h"
+
+#include <QKeyEvent>
+#include <QValidator>
+#include <cmath>
+
+#include "debugger/row_edit.h"
+#include "mainwindow/control_surface.h"
+#include "platform/code_page.h"
+#include "platform/qt/key_codes.h"
+
+namespace frmMain {
+
+namespace {
+
+class CodePageValidator : public QValidator {
+ public:
+  using QValidator::QValidator;
+  State validate(QString& text, int& /*place*/) const override {
+    return Utf8ToCodePage(text.toStdString()) ? Acceptable : Invalid;
+  }
+};
+
+}  // namespace
+
+RowEditBox::RowEditBox(QWidget* grid) : QLineEdit(grid) {
+  setObjectName("txtDebug");
+  setAccessibleName("Text of the row");
+  setValidator(new CodePageValidator(this));
+  // Always as a pair: the grid's colours are the user's own.
+  QPalette colours = palette();
+  colours.setColor(QPalette::Base, Qt::white);
+  colours.setColor(QPalette::Text, Qt::black);
+  setPalette(colours);
+
+  bindings_.Bind(txtDebug.Text, [this](const std::string& text) {
+    const QString shown = QString::fromStdString(CodePageToUtf8(text));
+    if (shown != this->text()) setText(shown);
+  });
+  bindings_.Bind(txtDebug.FontName, [this](const std::string&) { ShowFont(); });
+  bindings_.Bind(txtDebug.FontSize, [this](int) { ShowFont(); });
+  bindings_.Bind(txtDebug.Bounds, [this](const ControlBounds& bounds) {
+    const ControlBounds& outer = DebugWindow.Bounds;
+    setGeometry(
+        QRectF(bounds.Left - outer.Left, bounds.Top - outer.Top, bounds.Width, bounds.Height)
+            .toRect());
+  });
+  bindings_.Bind(txtDebug.Visible, [this](bool visible) { Appear(visible); });
+  connect(this, &QLineEdit::textChanged, this, [](const QString& text) {
+    txtDebug.Text = Utf8ToCodePage(text.toStdString()).value_or("");
+  });
+}
+
+// A key that went down elsewhere, such as the Enter of a message box, is none of this box.
+void RowEditBox::keyPressEvent(QKeyEvent* event) {
+  pressed_ = true;
+  QLineEdit::keyPressEvent(event);
+}
+
+void RowEditBox::keyReleaseEvent(QKeyEvent* event) {
+  QLineEdit::keyReleaseEvent(event);
+  if (!event->isAutoRepeat() && std::exchange(pressed_, false)) {
+    txtDebug_KeyUp(VirtualKey(*event), ShiftState(*event));
+  }
+}
+
+void RowEditBox::focusOutEvent(QFocusEvent* event) {
+  QLineEdit::focusOutEvent(event);
+  // Neither its own pop-up menu nor another program ends the edit.
+  if (event->reason() == Qt::PopupFocusReason) return;
+  if (event->reason() == Qt::ActiveWindowFocusReason) return;
+  txtDebug_LostFocus();
+}
+
+void RowEditBox::ShowFont() {
+  QFont shown = font();
+  shown.setFamilies({QString::fromStdString(txtDebug.FontName)});
+  shown.setPointSize(std::max(txtDebug.FontSize.Get(), 1));
+  setFont(shown);
+}
+
+void RowEditBox::Appear(bool visible) {
+  pressed_ = false;
+  if (!visible) {
+    // The grid gets the focus: the keyboard stays where the user works.
+    if (hasFocus()) parentWidget()->setFocus();
+    hide();
+    return;
+  }
+  show();
+  raise();
+  setFocus();
+  setCursorPosition(txtDebug.SelStart);
+}
+
+}  // namespace frmMain

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QLineEdit>
+
+#include "platform/qt/bindings.h"
+
+namespace frmMain {
+
+// txtDebug on the screen. A child of the grid, so that it goes out of view with its row. A
+// character that the code page lacks can't be typed.
+class RowEditBox : public QLineEdit {
+ public:
+  explicit RowEditBox(QWidget* grid);
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+  void keyReleaseEvent(QKeyEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
+
+ private:
+  void ShowFont();
+  void Appear(bool visible);
+
+  Bindings bindings_;
+  // The key that is down was pressed in this box.
+  bool pressed_ = false;
+};
+
+}  // namespace frmMain

@@ -1,0 +1,64 @@
+#include "mainwindow/frm_main_status_bar.h"
+
+#include <QLabel>
+#include <algorithm>
+#include <cmath>
+
+#include "mainwindow/control_surface.h"
+
+namespace frmMain {
+
+namespace {
+
+// Pixels between a panel and the bar's upper and lower edge, and the next panel.
+constexpr int kGap = 2;
+
+struct PanelTip {
+  std::string_view key;
+  const char* tip;
+};
+constexpr PanelTip kTips[] = {
+    {"FileName", "Current File Name"},
+    {"FeedRate", "FeedRate"},
+    {"Dim", "Measurment Unit"},
+    {"SpindleSpeed", "Spindle Speed"},
+    {"SpindleDirection", "Spindle Direction"},
+    {"Coolant", "Coolant"},
+    {"ProgressBar", "Program Progress"},
+    {"Slider", "Simulation Speed"},
+    {"ToolPosition", "Tool Position"},
+};
+
+QFont PanelFont() {
+  QFont font("Courier New", 9);
+  font.setStyleHint(QFont::Monospace);
+  return font;
+}
+
+}  // namespace
+
+StatusBarView::StatusBarView(QWidget* parent) : QWidget(parent) {
+  setObjectName("StatusBar");
+  setAccessibleName("Status bar");
+  setAutoFillBackground(true);
+  const int height = static_cast<int>(std::lround(StatusBar.Bounds.Get().Height));
+  for (const PanelTip& row : kTips) {
+    StatusPanel& panel = StatusBar.Panels(row.key);
+    auto* label = new QLabel(this);
+    label->setObjectName(QString::fromUtf8(row.key.data(), static_cast<int>(row.key.size())));
+    label->setTextFormat(Qt::PlainText);
+    label->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
+    label->setFont(PanelFont());
+    label->setToolTip(row.tip);
+    label->setGeometry(static_cast<int>(std::lround(panel.Left)), kGap,
+                       static_cast<int>(std::lround(panel.Width)) - kGap, height - 2 * kGap);
+    bindings_.Bind(panel.Text, [label](const std::string& text) {
+      const QString whole = QString::fromStdString(text);
+      const int room = label->contentsRect().width();
+      label->setText(label->fontMetrics().elidedText(whole, Qt::ElideRight, room));
+      label->setAccessibleName(label->toolTip() + ": " + whole);
+    });
+  }
+}
+
+}  // namespace frmMain

@@ -1,0 +1,98 @@
+#include "mainwindow/frm_main_tool_bar.h"
+
+#include <QAction>
+#include <QMenu>
+#include <QToolButton>
+
+#include "debugger/run_commands.h"
+#include "editor/documents.h"
+#include "mainwindow/control_surface.h"
+#include "mainwindow/frm_main_menus.h"
+#include "mainwindow/frm_tool_bar_layout.h"
+#include "mainwindow/print_listing.h"
+#include "settings/frm_options.h"
+
+namespace frmMain {
+
+namespace {
+
+constexpr QSize kPictureSize(16, 16);
+
+// Without a key: a line.
+struct ButtonRow {
+  const char* key = nullptr;
+  void (*click)() = nullptr;
+};
+
+constexpr ButtonRow kButtons[] = {
+    {"New", mnuFileNew_Click},
+    {"Open", mnuFileOpen_Click},
+    {"Save", mnuFileSave_Click},
+    {},
+    {"Print", mnuFilePrint_Click},
+    {},
+    {"Step", mnuRunStepInto_Click},
+    {"Start", mnuRunStart_Click},
+    {"Pause", mnuRunPause_Click},
+    {"Stop", mnuRunStop_Click},
+    {},
+    {"Options", mnuToolsOptions_Click},
+};
+
+}  // namespace
+
+QIcon CommandIcon(const QString& key) {
+  QIcon icon;
+  icon.addFile(":/pictures/toolbar/" + key + ".png", kPictureSize);
+  icon.addFile(":/pictures/toolbar/" + key + "_disabled.png", kPictureSize, QIcon::Disabled);
+  return icon;
+}
+
+ToolBarView::ToolBarView(QWidget* parent) : QToolBar(parent) {
+  setObjectName("Toolbar");
+  setAccessibleName("Tool bar");
+  setIconSize(kPictureSize);
+  setAutoFillBackground(true);
+  for (const ButtonRow& row : kButtons) {
+    if (row.key == nullptr) {
+      addSeparator();
+    } else {
+      AddButton(row.key, row.click);
+    }
+  }
+  menu_ = MakeToolBarMenu(*this, bindings_, [this] { LayOutToolBar(*this); });
+  setContextMenuPolicy(Qt::CustomContextMenu);
+  connect(this, &QWidget::customContextMenuRequested, this, &ToolBarView::ShowMenu);
+}
+
+void ToolBarView::AddButton(const char* key, void (*click)()) {
+  ToolButton& button = Toolbar.Buttons(key);
+  QAction* action = addAction(CommandIcon(key), key);
+  action->setObjectName(key);
+  action->setToolTip(key);
+  connect(action, &QAction::triggered, this, [click] { click(); });
+  QWidget* widget = widgetForAction(action);
+  widget->setObjectName(key);
+  widget->setAccessibleName(key);
+  bindings_.Bind(button.Enabled, [action](bool enabled) { action->setEnabled(enabled); });
+  bindings_.Bind(button.Caption,
+                 [this, action](const std::string& caption) { ShowCaption(*action, caption); });
+  if (button.Key != "Step") return;
+  action->setCheckable(true);
+  bindings_.Bind(button.Value, [action](int value) { action->setChecked(value != 0); });
+}
+
+// All buttons have labels or none has one.
+void ToolBarView::ShowCaption(QAction& action, const std::string& caption) {
+  action.setIconText(QString::fromStdString(caption));
+  setToolButtonStyle(caption.empty() ? Qt::ToolButtonIconOnly : Qt::ToolButtonTextUnderIcon);
+  ControlBounds bounds = Toolbar.Bounds;
+  bounds.Height = sizeHint().height();
+  Toolbar.Bounds = bounds;
+}
+
+void ToolBarView::ShowMenu(const QPoint& place) {
+  if (Toolbar.Buttons("New").Enabled) menu_->popup(mapToGlobal(place));
+}
+
+}  // namespace frmMain

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QIcon>
+#include <QToolBar>
+#include <string>
+
+#include "platform/qt/bindings.h"
+
+class QMenu;
+
+namespace frmMain {
+
+// The picture of a command in both of its states, 16 by 16 pixels.
+QIcon CommandIcon(const QString& key);
+
+// Toolbar on the screen: a button a command, named by its key, with lines between the groups.
+// Writes the height in Toolbar.Bounds, which changes with the labels.
+class ToolBarView : public QToolBar {
+ public:
+  explicit ToolBarView(QWidget* parent);
+
+ private:
+  void AddButton(const char* key, void (*click)());
+  void ShowCaption(QAction& action, const std::string& caption);
+  void ShowMenu(const QPoint& place);
+
+  Bindings bindings_;
+  QMenu* menu_;
+};
+
+}  // namespace frmMain

@@ -1,0 +1,247 @@
+#include "mainwindow/frm_main.h"
+
+#include <QApplication>
+#include <QDropEvent>
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QPushButton>
+#include <QTableView>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTextEdit>
+#include <QTimer>
+#include <QToolButton>
+#include <QWindow>
+#include <gtest/gtest.h>
+
+#include "editor/documents.h"
+#include "interpreter/machine.h"
+#include "mainwindow/control_surface.h"
+#include "mainwindow/program_start.h"
+#include "platform/settings_store.h"
+#include "settings/settings.h"
+
+namespace {
+
+constexpr const char* kProgram =
+    "[BILLET X20 Z40\r\n"
+    "N10 G00 X30 Z10\r\n"
+    "N20 G01 X16 Z-20 F100\r\n"
+    "N30 G01 X16 Z-30\r\n";
+
+class WindowTest : public testing::Test {
+ protected:
+  WindowTest() {
+    qputenv("XDG_CONFIG_HOME", folder.path().toUtf8());
+    frmMain::ResetToProgramStart();
+    GlobalVariables::LoadSettings();
+    Store("General", "SplashScreen", "0");
+  }
+
+  void TearDown() override {
+    window.reset();
+    frmMain::ResetToProgramStart();
+    // An end of the program that was asked for outside exec() would end the next dialog.
+    QTimer::singleShot(0, qApp, QApplication::quit);
+    QApplication::exec();
+  }
+
+  static void Store(const char* section, const char* key, const char* value) {
+    SaveSetting("CNC", section, key, value);
+  }
+  QString WriteProgram(const char* name, const char* text) const {
+    QFile file(folder.filePath(name));
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(text);
+    return file.fileName();
+  }
+  void Open() {
+    window = std::make_unique<frmMain::Window>();
+    window->Load();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+  }
+  void OpenWithProgram() {
+    WriteProgram("part.cnc", kProgram);
+    Store("RecentFilePaths", "0", folder.filePath("part.cnc").toUtf8());
+    Open();
+  }
+  template <class T>
+  T& The(const char* name) const {
+    return *window->findChild<T*>(name);
+  }
+  bool IsOpen(const char* button) const { return The<QToolButton>(button).isEnabled(); }
+  void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const {
+    QTest::keyClick(window->windowHandle(), key, modifiers);
+  }
+  void Choose(const char* entry) const { The<QAction>(entry).trigger(); }
+  void DoubleClickRow(int row) const {
+    auto& grid = The<QTableView>("DebugWindow");
+    QTest::mouseDClick(grid.viewport(), Qt::LeftButton, {},
+                       grid.visualRect(grid.model()->index(row, 2)).center());
+  }
+
+  // Acts once, at the first moment of a run at which `when` holds.
+  template <class When, class Action>
+  void Once(When when, Action action) {
+    auto* watch = new QTimer(window.get());
+    QObject::connect(watch, &QTimer::timeout, watch, [watch, when, action] {
+      if (!when()) return;
+      watch->deleteLater();
+      watch->stop();
+      action();
+    });
+    watch->start(1);
+  }
+  // Answers the save question of what happens next.
+  static void Answer(QMessageBox::StandardButton button) {
+    QTimer::singleShot(0, qApp, [button] {
+      auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+      ASSERT_NE(nullptr, box);
+      EXPECT_EQ("Save changes to Untitled?", box->text());
+      box->button(button)->click();
+    });
+  }
+
+  QTemporaryDir folder;
+  std::unique_ptr<frmMain::Window> window;
+};
+
+TEST_F(WindowTest, ComesUpMaximizedWithTheCommandsThatNeedNoProgram) {
+  Open();
+  EXPECT_TRUE(window->isMaximized());
+  for (const auto key : frmMain::kCommandKeys) {
+    const bool needsNone = key == "New" || key == "Open" || key == "Options";
+    EXPECT_EQ(needsNone, IsOpen(key.data())) << key;
+  }
+  EXPECT_EQ("Untitled", The<QLabel>("FileName").text());
+  EXPECT_FALSE(The<QAction>("mnuFileRecentFiles(0)").isEnabled());
+  EXPECT_EQ("True", GetSetting("CNC", "Toolbar", "ShowLabels"));
+  EXPECT_EQ(&The<QTextEdit>("TextEditor"), QApplication::focusWidget());
+}
+
+TEST_F(WindowTest, EveryViewIsLaidOutStoredAndComesBackAtTheNextStart) {
+  Open();
+  const auto check = [&](const char* entry, const char* section, const char* key,
+                         const char* mark) {
+    if (entry != nullptr) Choose(entry);
+    QApplication::processEvents();
+    EXPECT_EQ(mark, GetSetting("CNC", section, key)) << key;
+    const auto heightOf = [&](const char* bar) {
+      return The<QWidget>(bar).isVisible() ? The<QWidget>(bar).height() : 0;
+    };
+    const QWidget& form = *window->centralWidget();
+    const QWidget& editor = The<QWidget>("TextEditor");
+    const QWidget& grid = The<QWidget>("DebugWindow");
+    EXPECT_FALSE(editor.isVisible() && grid.isVisible());
+    const int top = heightOf("Toolbar");
+    const int pane = editor.isVisible() || grid.isVisible() ? qRound(form.width() * 0.23) : 0;
+    const int height = form.height() - top - heightOf("StatusBar");
+    EXPECT_EQ(QRect(pane, top, form.width() - pane, height), The<QWidget>("picSim").geometry());
+    EXPECT_EQ(QRect(0, top, qRound(form.width() * 0.23), height), grid.geometry());
+    EXPECT_EQ(The<QWidget>("StatusBar").isVisible(), The<QWidget>("Slider").isVisible());
+    EXPECT_TRUE(The<QLabel>("Slider").geometry().width() - 8 == The<QWidget>("Slider").width());
+  };
+  check("mnuViewDebugWindow", "ViewOptions", "TextEditor", "False");
+  check("mnuViewToolBar", "ViewOptions", "Toolbar", "False");
+  check("mnuViewStatusBar", "ViewOptions", "StatusBar", "False");
+  check("mnuViewDebugWindow", "ViewOptions", "DebugWindow", "False");
+  check("mnuViewToolBar", "ViewOptions", "Toolbar", "True");
+  const int labelled = The<QWidget>("Toolbar").height();
+  check("mnuToolBarShowLabels", "Toolbar", "ShowLabels", "False");
+  EXPECT_LT(The<QWidget>("Toolbar").height(), labelled);
+  check("mnuViewTextEditor", "ViewOptions", "TextEditor", "True");
+  check("mnuViewDebugWindow", "ViewOptions", "DebugWindow", "True");
+  window.reset();
+  frmMain::ResetToProgramStart();
+  Open();
+  EXPECT_FALSE(The<QWidget>("StatusBar").isVisible());
+  check(nullptr, "ViewOptions", "DebugWindow", "True");
+  EXPECT_EQ(Qt::ToolButtonIconOnly, The<QToolButton>("New").toolButtonStyle());
+}
+
+TEST_F(WindowTest, TypingRaisesLettersOffersTheBilletAndOpensTheCommands) {
+  Open();
+  auto& editor = The<QTextEdit>("TextEditor");
+  QTest::keyClick(&editor, Qt::Key_BracketLeft);
+  EXPECT_EQ("BILLET", editor.textCursor().selectedText());
+  QTest::keyClick(&editor, Qt::Key_Return);
+  QApplication::processEvents();
+  QTest::keyClicks(&editor, "x20 z40");
+  EXPECT_EQ("[BILLET X20 Z40", editor.toPlainText());
+  EXPECT_TRUE(IsOpen("Save") && IsOpen("Start") && IsOpen("Step") && IsOpen("Print"));
+  EXPECT_FALSE(IsOpen("Pause") || IsOpen("Stop"));
+  Answer(QMessageBox::Cancel);
+  EXPECT_FALSE(window->close());
+  Answer(QMessageBox::No);
+  EXPECT_TRUE(window->close());
+}
+
+TEST_F(WindowTest, ARunIsPausedEditedSteppedAndStopped) {
+  OpenWithProgram();
+  EXPECT_EQ("&1   part.cnc", The<QAction>("mnuFileRecentFiles(0)").text());
+  auto& position = The<QLabel>("ToolPosition");
+  const auto x = [&] { return position.text().section(' ', 1, 1).toDouble(); };
+  const auto z = [&] { return position.text().section(' ', 4, 4).toDouble(); };
+  const QString fileMenuDuringRun = The<QTextEdit>("TextEditor").toPlainText();
+  Once([&] { return z() < -1; },
+       [&] {
+         EXPECT_NEAR(16 + 14 * (z() + 20) / 30, x(), 0.2);
+         EXPECT_TRUE(The<QWidget>("DebugWindow").isVisible());
+         EXPECT_TRUE(IsOpen("Pause") && IsOpen("Stop"));
+         EXPECT_FALSE(IsOpen("Start") || IsOpen("New") || IsOpen("Options"));
+         Key(Qt::Key_N, Qt::ControlModifier);
+         EXPECT_EQ(fileMenuDuringRun, The<QTextEdit>("TextEditor").toPlainText());
+         Key(Qt::Key_F6);
+         EXPECT_TRUE(IsOpen("Start") && !IsOpen("Pause"));
+         DoubleClickRow(3);
+         auto& box = The<QLineEdit>("txtDebug");
+         EXPECT_EQ("N30 G01 X16 Z-30", box.text());
+         QTest::keyClicks(&box, " [");
+         QTest::sendKeyEvent(QTest::Click, &box, Qt::Key_Eacute, QString("é"), {});
+         QTest::keyClick(&box, Qt::Key_Return);
+         EXPECT_FALSE(box.isVisible());
+         EXPECT_TRUE(The<QTextEdit>("TextEditor").toPlainText().contains("Z-30 [é"));
+         The<QToolButton>("Start").click();
+       });
+  Once([&] { return z() < -21; }, [&] { The<QToolButton>("Stop").click(); });
+  Key(Qt::Key_F5);
+  EXPECT_EQ(16, x());
+  EXPECT_LT(-30, z()) << "stopped on the way";
+  EXPECT_TRUE(IsOpen("Start") && IsOpen("Save") && IsOpen("New"));
+}
+
+TEST_F(WindowTest, ABreakPointStopsARunThatClosesWithTheWindow) {
+  OpenWithProgram();
+  Choose("mnuViewDebugWindow");
+  auto& grid = The<QTableView>("DebugWindow");
+  QTest::mouseClick(grid.viewport(), Qt::LeftButton, {},
+                    grid.visualRect(grid.model()->index(3, 1)).center());
+  Once([] { return frmMain::IsRunPaused(); },
+       [&] {
+         EXPECT_EQ("X 16.0  Z -20.0", The<QLabel>("ToolPosition").text());
+         EXPECT_TRUE(window->close()) << "without a question";
+       });
+  Key(Qt::Key_F5, Qt::ControlModifier);
+  EXPECT_NE(kFalse, frmMain::WindowClosed);
+  EXPECT_EQ("X 16.0  Z -20.0", The<QLabel>("ToolPosition").text());
+}
+
+TEST_F(WindowTest, ADroppedFileIsOpened) {
+  Open();
+  QMimeData data;
+  data.setUrls({QUrl::fromLocalFile(WriteProgram("a&b.cnc", kProgram))});
+  QDragEnterEvent enter({50, 200}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(window.get(), &enter);
+  QDropEvent drop({50, 200}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(window.get(), &drop);
+  QApplication::processEvents();
+  EXPECT_EQ("a&b.cnc", The<QLabel>("FileName").text());
+  EXPECT_EQ("&1   a&&b.cnc", The<QAction>("mnuFileRecentFiles(0)").text());
+  EXPECT_TRUE(The<QTextEdit>("TextEditor").toPlainText().startsWith("[BILLET"));
+}
+
+}  // namespace
