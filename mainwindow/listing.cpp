@@ -1,6 +1,7 @@
 #include "mainwindow/listing.h"
 
 #include <QAbstractTextDocumentLayout>
+#include <QFile>
 #include <QPainter>
 #include <QTextBlock>
 #include <QTextCursor>
@@ -44,6 +45,15 @@ QString ParagraphsOf(const FormattedText& program, std::size_t run) {
   const std::size_t end = isLast ? program.text.size() : program.runs[run + 1].start;
   QString text = QString::fromStdString(CodePageToUtf8(program.text.substr(start, end - start)));
   return text.remove('\r').replace('\n', QChar::ParagraphSeparator);
+}
+
+// Qt doesn't tell when the disk was full: such a file has no end.
+bool IsComplete(const QPrinter& printer) {
+  constexpr int kEndRoom = 16;
+  if (printer.outputFileName().isEmpty()) return true;
+  QFile file(printer.outputFileName());
+  return file.open(QIODevice::ReadOnly) && file.seek(std::max<qint64>(file.size() - kEndRoom, 0)) &&
+         file.readAll().contains("%%EOF");
 }
 
 // The program laid out for one printer, in its pixels.
@@ -154,5 +164,5 @@ bool PrintListing(const Listing& listing, QPrinter& printer) {
     pages.Draw(painter, page);
     isFirst = false;
   }
-  return painter.end() && printer.printerState() != QPrinter::Error;
+  return painter.end() && IsComplete(printer);
 }

@@ -16,9 +16,9 @@ namespace {
 constexpr double kMarginMillimetres = 15;
 
 Listing EditorListing() {
-  QFont font(QString::fromStdString(TextEditor().Font.Name),
-             GlobalVariables::Settings.EditorFontSize);
-  font.setBold(GlobalVariables::Settings.EditorFontBold != 0);
+  const GlobalVariables::SettingsRecord& settings = GlobalVariables::Settings;
+  QFont font(QString::fromStdString(settings.EditorFontName), settings.EditorFontSize);
+  font.setBold(settings.EditorFontBold != 0);
   return {QString::fromStdString(StatusBar.Panels("FileName").Text), TextEditor().TextRTF(), font};
 }
 

@@ -38,8 +38,8 @@ int MessageBox(const std::string& text, int style = kOkOnly, const std::string& 
 void SendKeys(const std::string& keys);
 inline constexpr const char* kRightArrowKeys = "{RIGHT}";
 
-// Starts another program, found as the shell finds it, with the path of a file, and goes on at once.
-// False when it couldn't start.
+// Starts another program, found as the shell finds it, with the path of a file, and goes on at
+// once. False when it couldn't start.
 bool StartProgram(const std::string& program, const std::string& path);
 
 // Ends the program with status 0, as soon as the handlers that run have returned and without asking

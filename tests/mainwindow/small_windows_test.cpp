@@ -26,8 +26,8 @@ TEST(SmallWindowsTest, AClickTurnsTheFadeAroundWhereItStands) {
   QTimer user;
   user.callOnTimeout([&] {
     auto* box = dynamic_cast<FadingWindow*>(Up("frmSplash"));
-    if (box != nullptr) highest = std::max(highest, qRound(box->windowOpacity() * 255));
-    // The next step is to be 100.
+    if (box == nullptr) return;
+    highest = std::max(highest, qRound(box->windowOpacity() * 255));
     if (highest == 95 && box->Timer1.isActive()) QTest::mouseClick(box, Qt::LeftButton);
   });
   user.start(0);
@@ -51,8 +51,8 @@ TEST(SmallWindowsTest, AModalNotificationTakesTheWindowOverForItsOwnTime) {
 }
 
 TEST(SmallWindowsTest, TheProgramEndsBehindAModalNotification) {
-  QTimer::singleShot(0, qApp, [] { ModCNC::DecodeMWord("M10"); });
-  QTimer::singleShot(50, qApp, frmMain::Form_Unload);
+  QTimer::singleShot(0, qApp, [word = "M10"] { ModCNC::DecodeMWord(word); });
+  QTimer::singleShot(50, qApp, [] { frmMain::Form_Unload(); });
   EXPECT_EQ(0, QApplication::exec());
   ModCNC::DecodeMWord("M03");
   EXPECT_EQ(nullptr, Up("frmInfo"));
