@@ -18,8 +18,8 @@ static bool IsPart(const QMatrix4x4& toPart, int column, int row) {
   const QVector3D middle(QPointF(column / 80.0 - 1, 1 - row / 60.0));
   const QVector3D near = toPart.map(middle - QVector3D(0, 0, 1));
   const QVector3D far = toPart.map(middle + QVector3D(0, 0, 1));
-  for (float t = 0; t < 1; t += 0.002F) {
-    const QVector3D point = near + t * (far - near);
+  for (short step = 0; step < 500; ++step) {
+    const QVector3D point = near + step / 500.0F * (far - near);
     const float fromFace = 100 - 50 * point.x();
     if (fromFace < 0 || fromFace >= 200) continue;
     const float radius = Graphics::StockProfile[static_cast<std::size_t>(fromFace) + 1].Radius;
