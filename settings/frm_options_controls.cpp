@@ -66,8 +66,8 @@ QGroupBox* MakeFrame(const char* name, const QString& caption) {
   return frame;
 }
 
-QCheckBox* MakeCheckBox(const char* name, const QString& caption, QWidget* parent) {
-  auto* box = new QCheckBox(caption, parent);
+QCheckBox* MakeCheckBox(const char* name, const QString& caption) {
+  auto* box = new QCheckBox(caption);
   box->setObjectName(name);
   return box;
 }

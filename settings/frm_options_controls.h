@@ -41,7 +41,7 @@ Layout* MakeLayout(QWidget* parent) {
   layout->setContentsMargins(6, 6, 6, 6);
   return layout;
 }
-QCheckBox* MakeCheckBox(const char* name, const QString& caption, QWidget* parent);
+QCheckBox* MakeCheckBox(const char* name, const QString& caption);
 QPushButton* MakeDefaultsButton(const char* name, const QString& caption);
 // Adds a row of a label and its control, and another control at its end.
 void AddRow(QFormLayout& form, const char* labelName, const QString& caption, QWidget* control,

@@ -136,8 +136,8 @@ QWidget* DebugPage::MakeSampleFrame() {
 QWidget* DebugPage::MakeOthersFrame() {
   QGroupBox* frame = MakeFrame("Frame10", "Others");
   auto* column = MakeLayout<QVBoxLayout>(frame);
-  chkShowGrid_ = MakeCheckBox("chkShowGrid", "Show &Grids", frame);
-  chkShowLineNumber_ = MakeCheckBox("chkShowLineNumber", "&Show Line Numbers", frame);
+  chkShowGrid_ = MakeCheckBox("chkShowGrid", "Show &Grids");
+  chkShowLineNumber_ = MakeCheckBox("chkShowLineNumber", "&Show Line Numbers");
   column->addWidget(chkShowGrid_);
   column->addWidget(chkShowLineNumber_);
   return frame;

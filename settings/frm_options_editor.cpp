@@ -70,7 +70,7 @@ QWidget* EditorPage::MakeFontFrame() {
   cmbEditorFonts_ = MakeFontList("cmbEditorFonts");
   cmbEditorFontSize_ = MakeSizeList("cmbEditorFontSize");
   AddRow(*form, "Label1", "Font:", cmbEditorFonts_);
-  chkEditorFontBold_ = MakeCheckBox("chkEditorFontBold", "Bold", frame);
+  chkEditorFontBold_ = MakeCheckBox("chkEditorFontBold", "Bold");
   AddRow(*form, "Label2", "Size:", cmbEditorFontSize_, chkEditorFontBold_);
   return frame;
 }
@@ -105,11 +105,11 @@ QWidget* EditorPage::MakeSampleFrame() {
 QWidget* EditorPage::MakeOthersFrame() {
   QGroupBox* frame = MakeFrame("Frame9", "Others");
   auto* grid = MakeLayout<QGridLayout>(frame);
-  chkAutoComplete_ = MakeCheckBox("chkAutoComplete", "&Auto Complete", frame);
-  chkAutoReformat_ = MakeCheckBox("chkAutoReformat", "Auto Reformat", frame);
+  chkAutoComplete_ = MakeCheckBox("chkAutoComplete", "&Auto Complete");
+  chkAutoReformat_ = MakeCheckBox("chkAutoReformat", "Auto Reformat");
   chkAutoReformat_->setToolTip("A program is always reformatted at Start");
-  chkSplashScreen_ = MakeCheckBox("chkSplashScreen", "Show Splash Screen", frame);
-  chkOpenLastFile_ = MakeCheckBox("chkOpenLastFile", "Open Last File On Startup ", frame);
+  chkSplashScreen_ = MakeCheckBox("chkSplashScreen", "Show Splash Screen");
+  chkOpenLastFile_ = MakeCheckBox("chkOpenLastFile", "Open Last File On Startup ");
   grid->addWidget(chkAutoComplete_, 0, 0);
   grid->addWidget(chkAutoReformat_, 1, 0);
   grid->addWidget(chkSplashScreen_, 0, 1);

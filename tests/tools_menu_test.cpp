@@ -1,10 +1,5 @@
-#include <QColorDialog>
-#include <QComboBox>
-#include <QLabel>
-#include <QListWidget>
-#include <QPushButton>
 #include <QTest>
-#include <QTimer>
+#include <QtWidgets>
 
 #include "debugger/debug_grid.h"
 #include "mainwindow/control_surface.h"
@@ -29,14 +24,17 @@ class ToolsMenuTest : public TemporaryFolderTest {
     frmMain::ResetToProgramStart();
     GlobalVariables::LoadSettings();
     GlobalVariables::SetToolFolder(folder.string());
-  }
-  // Runs `act` as soon as a dialog is up, and closes the dialog if it doesn't.
-  static void WhenShown(std::function<void(QWidget*)> act) {
-    QTimer::singleShot(0, qApp, [act = std::move(act)] {
+    timer.setSingleShot(true);
+    QObject::connect(&timer, &QTimer::timeout, [this] {
       const QPointer dialog = QApplication::activeModalWidget();
-      act(dialog);
+      std::exchange(next, {})(dialog);
       if (dialog) dialog->close();
     });
+  }
+  // Runs `act` as soon as a dialog is up, and closes the dialog if it doesn't.
+  void WhenShown(const std::function<void(QWidget*)>& act) {
+    next = act;
+    timer.start(0);
   }
   template <class T>
   static T& The(const char* name) {
@@ -46,9 +44,8 @@ class ToolsMenuTest : public TemporaryFolderTest {
   static void Choose(const char* list, const QString& text) {
     The<QComboBox>(list).setCurrentText(text);
   }
-  static QString Shown(const char* label) { return The<QLabel>(label).text(); }
 
-  static void Pick(const char* swatch, const QColor& colour, bool cancel = false) {
+  void Pick(const char* swatch, const QColor& colour, bool cancel = false) {
     WhenShown([=](QWidget* shown) {
       auto& dialog = dynamic_cast<QColorDialog&>(*shown);
       dialog.setCurrentColor(colour);
@@ -56,7 +53,7 @@ class ToolsMenuTest : public TemporaryFolderTest {
     });
     Press(swatch);
   }
-  static void ChangeAllOptions() {
+  void ChangeAllOptions() {
     Choose("cmbEditorFonts", "Arial");
     Pick("lblEditorColor", QColor(1, 2, 3));
     Choose("cmbDebugFontSize", "12");
@@ -70,11 +67,13 @@ class ToolsMenuTest : public TemporaryFolderTest {
     auto& files = The<QListWidget>("FileList");
     files.setCurrentItem(files.findItems(file, Qt::MatchExactly).value(0));
     QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Return);
-    EXPECT_EQ(file, Shown("lblFile"));
+    EXPECT_EQ(file, The<QLabel>("lblFile").text());
   }
-  static void ExpectError() {
+  void ExpectError() {
     WhenShown([](QWidget* box) { EXPECT_EQ("Error!", box->windowTitle()); });
   }
+  QTimer timer;
+  std::function<void(QWidget*)> next;
 };
 
 TEST_F(ToolsMenuTest, OptionsChangeStoreAndWindowsWithOkAlone) {
@@ -86,7 +85,7 @@ TEST_F(ToolsMenuTest, OptionsChangeStoreAndWindowsWithOkAlone) {
   for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Return}) {
     EXPECT_TRUE(expected == Settings && store == Bytes("turnbay/CNC.ini"));
     EXPECT_EQ("", frmMain::TextEditor().TextRTF().runs.front().format.fontName);
-    WhenShown([key](QWidget* dialog) {
+    WhenShown([this, key](QWidget* dialog) {
       ChangeAllOptions();
       QTest::keyClick(dialog, key);
     });
@@ -128,13 +127,13 @@ TEST_F(ToolsMenuTest, ToolLibrarySavesByCloseAlone) {
   Put("a.ini", "TOOLNAME=Parting\r\nTOOLWIDTH=12\r\nTOOLHEIGHT=34");
   Put("\xE5\x88\x80.bmp", "no picture");
   const std::string list = Bytes(Put("ToolList.ini", "7=A.BMP\r\n3=gone.bmp\r\n"));
-  WhenShown([](QWidget* dialog) {
+  WhenShown([this](QWidget* dialog) {
     EXPECT_FALSE(The<QAbstractButton>("cmdAssign").isEnabled());
     Choose("cmbTools", "Tool 7");
-    EXPECT_EQ("Parting", Shown("lblName")) << "found without regard to case";
+    EXPECT_EQ("Parting", The<QLabel>("lblName").text()) << "found without regard to case";
     ExpectError();
     Assign("Tool 7", "\u5200.bmp");
-    EXPECT_EQ("", Shown("lblName")) << "no description";
+    EXPECT_EQ("", The<QLabel>("lblName").text()) << "no description";
     ExpectError();
     Press("cmdClose");
     EXPECT_TRUE(dialog->isVisible());
