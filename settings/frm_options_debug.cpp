@@ -111,6 +111,7 @@ QWidget* DebugPage::MakeFormatFrame() {
   auto* row = MakeLayout<QHBoxLayout>(frame);
   cmbDebugColors_ = new QComboBox;
   cmbDebugColors_->setObjectName("cmbDebugColors");
+  cmbDebugColors_->setAccessibleName("Format");
   for (const NamedColour& colour : kColours) cmbDebugColors_->addItem(colour.name);
   cmbDebugColors_->setCurrentIndex(-1);
   lblDebugColor_ = new Swatch("lblDebugColor", "Format Colour");

@@ -80,6 +80,7 @@ QWidget* EditorPage::MakeColourFrame() {
   auto* row = MakeLayout<QHBoxLayout>(frame);
   cmbEditorColours_ = new QComboBox;
   cmbEditorColours_->setObjectName("cmbEditorColours");
+  cmbEditorColours_->setAccessibleName("Coding Colours");
   for (const NamedColour& colour : kColours) cmbEditorColours_->addItem(colour.name);
   cmbEditorColours_->setCurrentIndex(-1);
   lblEditorColor_ = new Swatch("lblEditorColor", "Coding Colour");

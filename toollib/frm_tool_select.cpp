@@ -59,6 +59,12 @@ QLabel* MakeValueLabel(const char* name) {
   return label;
 }
 
+// With a tool tip for what the label has no room for.
+void SetText(QLabel& label, const QString& text) {
+  label.setText(text);
+  label.setToolTip(Qt::convertFromPlainText(text));
+}
+
 QLabel* MakeHeading(const char* name, const QString& caption, QWidget* buddy) {
   auto* label = new QLabel(caption);
   label->setObjectName(name);
@@ -253,8 +259,7 @@ void ToolLibraryDialog::ShowToolDetails(const std::string& path) {
   for (std::size_t i = 0; i < values_.size(); ++i) {
     const auto value = description ? *description.*kValues[i].field : std::string();
     // A key that the file doesn't hold leaves what the last tool had.
-    if (value) values_[i]->setText(QString::fromStdString(*value));
-    values_[i]->setToolTip(values_[i]->text().toHtmlEscaped());
+    if (value) SetText(*values_[i], QString::fromStdString(*value));
   }
   if (!picture) Desktop::MessageBox(reason, Desktop::kCritical, "Error!");
 }
@@ -282,7 +287,7 @@ void ToolLibraryDialog::ShowAssignedFile() {
   if (!number) return lblFile_->setText(" ");
   const QString file = QString::fromStdString(ToolFiles[*number]);
   const bool isThere = !fileList_->findItems(file, Qt::MatchFixedString).isEmpty();
-  lblFile_->setText(file.isEmpty() ? "No tool assigned" : isThere ? file : file + " (missing)");
+  SetText(*lblFile_, file.isEmpty() ? "No tool assigned" : isThere ? file : file + " (missing)");
 }
 
 void ToolLibraryDialog::EnableAssign() {

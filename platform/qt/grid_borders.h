@@ -9,7 +9,7 @@
 // grid. With the keyboard, Ctrl and an arrow key sizes all of these rows, or the text column.
 class GridBorders : public QObject {
  public:
-  // Both must outlive it.
+  // Goes with the view; the table must outlive it.
   GridBorders(GridTable& table, GridView& view);
 
  protected:
