@@ -35,16 +35,15 @@ bool OffScreen::Create(int width, int height, std::string& reason) {
   EGLConfig config = nullptr;
   EGLint count = 0;
   eglChooseConfig(display_, kConfig, &config, 1, &count);
-  EGLContext context = EGL_NO_CONTEXT;
-  if (count > 0) context = eglCreateContext(display_, config, EGL_NO_CONTEXT, nullptr);
-  if (context == EGL_NO_CONTEXT) {
+  if (count > 0) context_ = eglCreateContext(display_, config, EGL_NO_CONTEXT, nullptr);
+  if (context_ == EGL_NO_CONTEXT) {
     reason = "OpenGL has no fixed pipeline here.";
     return false;
   }
   const EGLint size[] = {EGL_WIDTH, width, EGL_HEIGHT, height, EGL_NONE};
-  EGLSurface surface = eglCreatePbufferSurface(display_, config, size);
-  if (surface == EGL_NO_SURFACE ||
-      eglMakeCurrent(display_, surface, surface, context) == EGL_FALSE) {
+  surface_ = eglCreatePbufferSurface(display_, config, size);
+  if (surface_ == EGL_NO_SURFACE ||
+      eglMakeCurrent(display_, surface_, surface_, context_) == EGL_FALSE) {
     reason = "OpenGL can't draw a picture of " + std::to_string(width) + "x" +
              std::to_string(height) + " pixels here.";
     return false;
@@ -54,11 +53,13 @@ bool OffScreen::Create(int width, int height, std::string& reason) {
   return true;
 }
 
+// The display stays as it is: it belongs to the whole program, and its driver loses memory when it
+// is unloaded.
 OffScreen::~OffScreen() {
-  if (display_ == EGL_NO_DISPLAY) return;
+  if (context_ == EGL_NO_CONTEXT) return;
   eglMakeCurrent(display_, EGL_NO_SURFACE, EGL_NO_SURFACE, EGL_NO_CONTEXT);
-  // Takes surface and context along.
-  eglTerminate(display_);
+  if (surface_ != EGL_NO_SURFACE) eglDestroySurface(display_, surface_);
+  eglDestroyContext(display_, context_);
 }
 
 Raster OffScreen::Read() const {

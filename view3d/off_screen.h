@@ -24,6 +24,8 @@ class OffScreen {
  private:
   int width_ = 0;
   int height_ = 0;
-  // EGL's; owns the context and its surface. Null before Create.
+  // EGL's, null before Create.
   void* display_ = nullptr;
+  void* context_ = nullptr;
+  void* surface_ = nullptr;
 };
