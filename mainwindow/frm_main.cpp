@@ -164,7 +164,7 @@ void Window::BindPlaces() {
 }
 
 void Window::FollowFocus() {
-  connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
+  connect(qApp, &QApplication::focusChanged, this, [](QWidget*, QWidget* now) {
     if (now == nullptr) return;
     ActiveControl = std::string_view();
     for (const std::string_view name : {"TextEditor", "DebugWindow", "txtDebug", "Slider"}) {
