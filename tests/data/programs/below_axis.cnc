@@ -1,0 +1,10 @@
+[THE PROFILE FALLS TO THE DISTANCE FROM THE AXIS, INSIDE THE BILLET ALONE
+[BILLET X20 Z10
+N10 G00 X20.4 Z2
+N20 G01 X-14
+[Radius 7 to Z-5, from below
+N30 Z-5
+[Radius 8 to Z-10; the rest is left of the billet
+N40 X-16
+N50 Z-13
+N60 X20.4

@@ -1,0 +1,2 @@
+[BILLET X Z40
+G01 X10

@@ -1,0 +1,2 @@
+[BILLET X20 Zoo
+G01 X10
