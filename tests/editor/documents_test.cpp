@@ -26,10 +26,12 @@ class DocumentsTest : public MachineTest {
     Form_QueryUnload(cancel, kClosedByUser);
     EXPECT_EQ(Fakes::ProgramEnded(), cancel == kFalse);
   }
-  // "part.cnc*: G01, /part.cnc /other.cnc": name, star when modified, text, recent files.
+  // "part.cnc*: G01, /part.cnc /other.cnc": name, star when modified, dash when there is nothing to
+  // start, text, recent files.
   static std::string State() {
     std::string state = StatusBar.Panels("FileName").Text;
-    state += (mnuFileSave.Enabled ? "*: " : ": ") + TextEditor().Text() + ',';
+    state += std::string(mnuFileSave.Enabled ? "*" : "") + (mnuRunStart.Enabled ? ": " : "-: ") +
+             TextEditor().Text() + ',';
     for (std::int16_t i = 0; i < 5; ++i) {
       if (!RecentFilePath(i).empty()) state += ' ' + RecentFilePath(i);
     }
@@ -37,20 +39,10 @@ class DocumentsTest : public MachineTest {
   }
 };
 
-TEST_F(DocumentsTest, OpenAndNewReplaceTheWholeDocument) {
-  Open("/a/part.cnc", "G00\r\nG01 X10");
-  EXPECT_EQ("G01 X10", DebugWindow.TextMatrix(1, kTextColumn));
-  EXPECT_TRUE(Toolbar.Buttons("Start").Enabled);
-  EXPECT_EQ("part.cnc: G00\r\nG01 X10, /a/part.cnc", State());
-  mnuFileNew_Click();
-  EXPECT_EQ("Untitled: , /a/part.cnc", State());
-  EXPECT_FALSE(Toolbar.Buttons("Start").Enabled);
-}
-
 TEST_F(DocumentsTest, AsksBeforeChangesAreDropped) {
   const std::string other = "other.cnc: G28, /other.cnc /part.cnc";
   const std::pair<void (*)(), std::string> droppings[] = {
-      {mnuFileNew_Click, "Untitled: , /part.cnc /other.cnc"},
+      {mnuFileNew_Click, "Untitled-: , /part.cnc /other.cnc"},
       {mnuFileOpen_Click, other + " /other.cnc"},
       {[] { mnuFileRecentFiles_Click(1); }, other},
       {mnuFileExit_Click, "ended"},
@@ -62,8 +54,8 @@ TEST_F(DocumentsTest, AsksBeforeChangesAreDropped) {
       Open("/other.cnc", "G28");
       Open("/part.cnc", "G00");
       Type("G01");
-      Fakes::ExpectMessage("Save changes to part.cnc?", kYesNoCancel + kQuestion, "Save Changes?",
-                           answer);
+      Fakes::ExpectMessage(
+          {"Save changes to part.cnc?", kYesNoCancel + kQuestion, "Save Changes?", answer});
       const bool cancels = answer == kCancel;
       if (!cancels && start == mnuFileOpen_Click) Fakes::ExpectOpenDialog("/other.cnc");
       start();
@@ -84,8 +76,8 @@ TEST_F(DocumentsTest, SaveAsksForANameOnceAndTellsWhyItFails) {
   EXPECT_EQ("G02", Fakes::FileBytes("/b/copy"));
   Type("G03");
   Fakes::FailWrites("The disk is full.");
-  Fakes::ExpectMessage("Save changes to copy?", kYesNoCancel + kQuestion, "Save Changes?", kYes);
-  Fakes::ExpectMessage("The disk is full.", kCritical, "Error!");
+  Fakes::ExpectMessage({"Save changes to copy?", kYesNoCancel + kQuestion, "Save Changes?", kYes});
+  Fakes::ExpectMessage({"The disk is full.", kCritical, "Error!"});
   mnuFileNew_Click();
   EXPECT_EQ("copy*: G03, /b/copy", State());
 }
@@ -113,6 +105,7 @@ TEST_F(DocumentsTest, SavingKeepsTheBytesOfAFile) {
   for (const auto& [file, text, saved] : cases) {
     Open("/part.cnc", file);
     EXPECT_EQ(text, TextEditor().Text());
+    EXPECT_EQ(text.substr(0, text.find('\r')), DebugWindow.TextMatrix(0, kTextColumn));
     mnuFileSave_Click();
     EXPECT_EQ(saved, Fakes::FileBytes("/part.cnc"));
   }

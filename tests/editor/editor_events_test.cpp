@@ -1,10 +1,11 @@
 #include "editor/editor_events.h"
 
-#include "tests/editor/editor_test.h"
+#include "settings/settings.h"
+#include "tests/fakes/machine_test.h"
 
 namespace {
 
-class EditorEventsTest : public EditorTest {};
+using EditorEventsTest = MachineTest;
 
 TEST_F(EditorEventsTest, TheKeyPicksTheColourOfWhatIsTyped) {
   GlobalVariables::Settings.EditorCharacterColor = 'c';

@@ -1,12 +1,13 @@
 #include "editor/reformat.h"
 
 #include "editor/colouring.h"
-#include "tests/editor/editor_test.h"
+#include "settings/settings.h"
+#include "tests/fakes/machine_test.h"
 #include "tests/platform/rich_text_contract.h"
 
 namespace {
 
-class ReformatTest : public EditorTest {};
+using ReformatTest = MachineTest;
 
 TEST_F(ReformatTest, BringsALineIntoItsCanonicalLayout) {
   const std::pair<std::string, std::string> rows[] = {
@@ -25,7 +26,7 @@ TEST_F(ReformatTest, BringsALineIntoItsCanonicalLayout) {
     Open(text);
     frmMain::mnuToolsReformatText_Click();
     EXPECT_EQ(expected, frmMain::TextEditor().Text());
-    EXPECT_FALSE(IsOpen("Save"));
+    EXPECT_FALSE(frmMain::mnuFileSave.Enabled);
   }
 }
 

@@ -5,17 +5,18 @@
 #include <fstream>
 #include <iterator>
 #include <random>
+#include <sstream>
 #include <vector>
 
 #include "editor/reformat.h"
 #include "platform/code_page.h"
 #include "platform/numbers.h"
 #include "platform/text.h"
-#include "tests/editor/editor_test.h"
+#include "tests/fakes/machine_test.h"
 
 namespace {
 
-class SyntaxCheckTest : public EditorTest {};
+using SyntaxCheckTest = MachineTest;
 
 // All but the layout: what neither command may lose.
 std::string Substance(std::string_view text) {
@@ -27,7 +28,7 @@ std::string Substance(std::string_view text) {
 }
 
 // Slips of people who come from other controls, and each kind of fault, one file each. The list
-// tells where the selection begins, how long it is, and title and text of the message.
+// tells where the selection begins, how long it is, and style, title and text of the message.
 TEST_F(SyntaxCheckTest, StartShowsTheFirstFaultAndLosesNothing) {
   Fakes::CollectMessages();
   const std::string folder = TURNBAY_SLIPS;
@@ -40,9 +41,10 @@ TEST_F(SyntaxCheckTest, StartShowsTheFirstFaultAndLosesNothing) {
     RichText& editor = Open(bytes);
     frmMain::mnuRunStart_Click();
     const auto& message = Fakes::Messages().back();
-    EXPECT_EQ(expected, name + ' ' + std::to_string(editor.SelStart()) + ' ' +
-                            std::to_string(editor.SelLength()) + ' ' + message.title + ": " +
-                            message.text);
+    std::ostringstream told;
+    told << name << ' ' << editor.SelStart() << ' ' << editor.SelLength() << ' ' << message.style
+         << ' ' << message.title << ": " << message.text;
+    EXPECT_EQ(expected, told.str());
     EXPECT_EQ(Substance(bytes), Substance(editor.Text()));
   }
   EXPECT_EQ(slips, Fakes::Messages().size());

@@ -1,88 +1,110 @@
 #pragma once
 
+#include <deque>
 #include <functional>
-#include <optional>
+#include <map>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "platform/desktop.h"
 #include "platform/raster.h"
 
-// The scripted desktop of the logic tests: acts inside chosen yields, expects each message box, and
-// keeps settings, files and pictures in memory. A box that nobody expected, an expectation that
-// nothing met and a run that would wait for ever fail the test.
-namespace Fakes {
-
-// Empties everything; call before each test.
-void Reset();
-// Fails the test for whatever was expected and didn't happen; call after each test.
-void Verify();
-
-// Runs `action` inside the n-th call of Yield or WaitForEvent from now on (n counts from 1).
-void AtYield(int n, std::function<void()> action);
-// Runs `action` inside every call of Yield and WaitForEvent.
-void AtEachYield(std::function<void()> action);
-// Runs `action` inside the next WaitForEvent that has none yet: what the user does in a pause.
-void AtWait(std::function<void()> action);
-// Calls of Yield and WaitForEvent so far.
-int Yields();
-int Waits();
-
-// The next message box must be this one, and gets this answer.
-void ExpectMessage(const std::string& text, int style, const std::string& title = "",
-                   int answer = Desktop::kOk);
-
-struct Notification {
-  std::string text;
-  int milliseconds = 0;
-  bool modal = false;
-
-  bool operator==(const Notification&) const = default;
-};
-// Every notification so far, in order. A modal one handles events as Yield does.
-const std::vector<Notification>& Notifications();
-// Runs `action` as each notification appears.
-void AtEachNotification(std::function<void()> action);
-
-// From now on no message box needs to be expected; each is kept and gets the answer OK.
-void CollectMessages();
-struct Message {
+struct FakeMessage {
   std::string text;
   int style = 0;
   std::string title;
-
-  bool operator==(const Message&) const = default;
+  int answer = Desktop::kOk;
 };
-const std::vector<Message>& Messages();
 
-// Every call of SendKeys, in order. `reaction` gets the keys one call at a time, inside the next
-// yield: the control that has the focus.
-const std::vector<std::string>& SentKeys();
-void AtSentKeys(std::function<void(const std::string&)> reaction);
+// What is scripted, and what has happened so far.
+struct FakeWorld {
+  int yields = 0;
+  std::map<int, std::function<void()>> atYield;
+  std::function<void()> atEachYield;
+  std::deque<std::function<void()>> atWait;
+  bool collectsMessages = false;
+  std::deque<FakeMessage> expectedMessages;
+  std::vector<FakeMessage> messages;
+  std::function<void()> atEachNotification;
+  std::vector<std::string> notifications;
+  std::function<void(const std::string&)> atSentKeys;
+  std::deque<std::string> keyQueue;
+  // To open or to save, and the path that is chosen.
+  std::deque<std::pair<bool, std::string>> dialogs;
+  bool ended = false;
+  std::vector<int> sleeps;
+  std::vector<std::string> sounds;
+  std::map<std::string, Raster> pictures;
+  std::map<std::string, std::string> files;
+  std::string writeFailure;
+  std::map<std::string, std::string> settings;
+  std::vector<std::string> savedSettings;
+};
 
-// The next file dialog must be one to open, or to save, and this path is chosen; without one the
-// dialog is cancelled.
-void ExpectOpenDialog(const std::optional<std::string>& chosen);
-void ExpectSaveDialog(const std::optional<std::string>& chosen);
+// The scripted desktop of the logic tests: acts inside chosen yields, expects each message box, and
+// keeps settings, files and pictures in memory. A box that nobody expected, an expectation that
+// nothing met and a run that would wait for ever fail the test.
+class Fakes {
+ public:
+  using Action = std::function<void()>;
 
-// True once the program has been told to end.
-bool ProgramEnded();
+  // Empties everything; call before each test.
+  static void Reset() { world = {}; }
+  // Fails the test for whatever was expected and didn't happen; call after each test.
+  static void Verify();
 
-// Milliseconds of every Sleep, and paths of every sound, in order.
-const std::vector<int>& Sleeps();
-const std::vector<std::string>& Sounds();
+  // Runs `action` inside the n-th call of Yield or WaitForEvent from now on (n counts from 1).
+  static void AtYield(int n, Action action) { world.atYield[world.yields + n] = std::move(action); }
+  // Runs `action` inside every call of Yield and WaitForEvent.
+  static void AtEachYield(Action action) { world.atEachYield = std::move(action); }
+  // Runs `action` inside the next WaitForEvent that has none yet: what the user does in a pause.
+  static void AtWait(Action action) { world.atWait.push_back(std::move(action)); }
+  // Calls of Yield and WaitForEvent so far.
+  static int Yields() { return world.yields; }
 
-// Paths are compared without regard to case and to the kind of separator. The application folder
-// is "/app".
-void PutPicture(const std::string& path, const Raster& picture);
-void PutFile(const std::string& path, const std::string& bytes);
-void RemoveFile(const std::string& path);
-// Empty when there is no such file.
-std::string FileBytes(const std::string& path);
-// Every later ReplaceFile fails with this reason, until it is empty.
-void FailWrites(const std::string& reason);
+  // The next message box must be this one, and gets its answer.
+  static void ExpectMessage(const FakeMessage& message) {
+    world.expectedMessages.push_back(message);
+  }
+  // From now on no message box needs to be expected; each gets the answer OK.
+  static void CollectMessages() { world.collectsMessages = true; }
+  // Every message box so far, in order.
+  static const std::vector<FakeMessage>& Messages() { return world.messages; }
 
-// "section/key=value", in the order in which they were saved.
-const std::vector<std::string>& SavedSettings();
+  // The texts of every notification so far. A modal one handles events as Yield does.
+  static const std::vector<std::string>& Notifications() { return world.notifications; }
+  // Runs `action` as each notification appears.
+  static void AtEachNotification(Action action) { world.atEachNotification = std::move(action); }
 
-}  // namespace Fakes
+  // `focus` stands for the control that has the focus: it gets the keys that are sent, one call at
+  // a time, inside the next yield.
+  static void AtSentKeys(std::function<void(const std::string&)> focus) {
+    world.atSentKeys = std::move(focus);
+  }
+
+  // The next file dialog must be one to open, or to save, and this path is chosen.
+  static void ExpectOpenDialog(const std::string& path) { world.dialogs.emplace_back(true, path); }
+  static void ExpectSaveDialog(const std::string& path) { world.dialogs.emplace_back(false, path); }
+
+  // True once the program has been told to end.
+  static bool ProgramEnded() { return world.ended; }
+
+  // Milliseconds of every Sleep, and paths of every sound, in order.
+  static const std::vector<int>& Sleeps() { return world.sleeps; }
+  static const std::vector<std::string>& Sounds() { return world.sounds; }
+
+  // Paths are compared without regard to case and to the kind of separator. The application folder
+  // is "/app".
+  static void PutPicture(const std::string& path, const Raster& picture);
+  static void PutFile(const std::string& path, const std::string& bytes);
+  static std::string FileBytes(const std::string& path);
+  // Every later ReplaceFile fails with this reason, until it is empty.
+  static void FailWrites(const std::string& reason) { world.writeFailure = reason; }
+
+  // "section/key=value", in the order in which they were saved.
+  static const std::vector<std::string>& SavedSettings() { return world.savedSettings; }
+
+  // For the bodies of the desktop.
+  static inline FakeWorld world;
+};

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "debugger/run_commands.h"
+#include "editor/editor_events.h"
 #include "interpreter/machine.h"
 #include "mainwindow/control_surface.h"
 #include "mainwindow/layout.h"
@@ -65,6 +66,14 @@ class MachineTest : public testing::Test {
       frmMain::DebugWindow.SetTextMatrix(static_cast<int>(i), frmMain::kTextColumn, lines[i]);
     }
     frmMain::EnableCommands("Start", true);
+  }
+
+  // A document as it stands when it has just been opened.
+  static RichText& Open(const std::string& text) {
+    frmMain::TextEditor().SetText(text);
+    frmMain::EnableCommands("Save", false);
+    frmMain::TextChanged = kFalse;
+    return frmMain::TextEditor();
   }
 
   // Loads the program and presses Start.

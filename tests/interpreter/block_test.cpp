@@ -7,7 +7,7 @@ namespace {
 
 using namespace ModCNC;
 
-class BlockTest : public MachineTest {};
+using BlockTest = MachineTest;
 
 TEST_F(BlockTest, UnreadableWordsChangeNothing) {
   // The check refuses these words, but a row that was edited in a pause can hold them.
@@ -25,11 +25,9 @@ TEST_F(BlockTest, UnreadableWordsChangeNothing) {
 }
 
 TEST_F(BlockTest, RegistersCarryOverIntoTheNextRun) {
-  Play({"[BILLET X20 Z10", "G01 X18 Z-5 F3 R4 S200 T5"});
+  Play({"[BILLET X20 Z10", "G01 X18 Z-5 R4 T5"});
   Play({"[BILLET X20 Z10", "X10"});
-  EXPECT_EQ(1, ActiveG);
-  EXPECT_EQ(40, WordR);
-  EXPECT_EQ(5, ToolNumber);
+  EXPECT_EQ((std::vector<int>{1, 40, 5}), (std::vector<int>{ActiveG, WordR, ToolNumber}));
   EXPECT_EQ(50, RadiusAt(0)) << "Stop zeroed the target";
   EXPECT_EQ(100, RadiusAt(-1));
 }

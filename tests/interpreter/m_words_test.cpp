@@ -8,32 +8,24 @@
 
 namespace {
 
-class MWordsTest : public MachineTest {};
-
-constexpr const char* kPanels[] = {"SpindleSpeed", "SpindleDirection", "Coolant"};
-
-std::string State() {
-  std::string state = frmMain::Toolbar.Buttons("Stop").Enabled ? "running" : "idle";
-  for (const char* key : kPanels) state += '|' + frmMain::StatusBar.Panels(key).Text.Get();
-  return state;
-}
+using MWordsTest = MachineTest;
 
 TEST_F(MWordsTest, NotifyBeforeOrBehindTheirOtherSteps) {
-  const struct {
-    const char* word;
-    const char* atNotification;
-    const char* afterwards;
-  } cases[] = {{"M03", "running|-|-|-", "idle|S 150|CW|-"},
-               {"M05", "running|-|-|-", "idle|S 0||-"},
-               {"M14", "running|S 150|CCW|Coolant: ON", "idle|S 150|CCW|Coolant: ON"},
-               {"M30", "idle|-|-|Coolant: OFF", "idle|-|-|Coolant: OFF"}};
-  std::string seen;
-  Fakes::AtEachNotification([&] { seen = State(); });
-  for (const auto& c : cases) {
-    for (const char* key : kPanels) frmMain::StatusBar.Panels(key).Text = "-";
-    Play({"[BILLET X20 Z40", std::string(c.word) + " S150"});
-    EXPECT_EQ(c.atNotification, seen) << c.word;
-    EXPECT_EQ(c.afterwards, State()) << c.word;
+  using frmMain::StatusBar, frmMain::Toolbar;
+  constexpr const char* kPanels[] = {"SpindleSpeed", "SpindleDirection", "Coolant"};
+  constexpr const char* kCases[][2] = {{"M03", "running|-|-|-"},
+                                       {"M05", "running|-|-|-"},
+                                       {"M14", "running|S 150|CCW|Coolant: ON"},
+                                       {"M30", "idle|-|-|Coolant: OFF"}};
+  for (const auto& [word, expected] : kCases) {
+    std::string seen;
+    Fakes::AtEachNotification([&] {
+      seen = Toolbar.Buttons("Stop").Enabled ? "running" : "idle";
+      for (const char* key : kPanels) seen += '|' + StatusBar.Panels(key).Text.Get();
+    });
+    for (const char* key : kPanels) StatusBar.Panels(key).Text = "-";
+    Play({"[BILLET X20 Z40", std::string(word) + " S150"});
+    EXPECT_EQ(expected, seen) << word;
   }
 }
 
@@ -44,34 +36,30 @@ TEST_F(MWordsTest, StopInsideModalNotificationEndsTheRunBehindItsRow) {
     frmMain::mnuRunStop_Click();
   });
   Play({"[BILLET X20 Z40", "X30 M10 X10", "M26"});
-  EXPECT_EQ(1u, Fakes::Notifications().size());
+  EXPECT_EQ(std::vector<std::string>{"Chuck OPEN"}, Fakes::Notifications());
 }
 
 TEST_F(MWordsTest, ToolChangeLoadsTheNumberedToolOrLeavesTheOldOne) {
   const std::string size = "TOOLWIDTH=40\r\nTOOLHEIGHT=30\r\n";
-  const struct {
-    const char* entry;
-    std::string description;
-    const char* fault;
-  } cases[] = {
+  // Entry of the tool list, description, fault.
+  const std::string cases[][3] = {
       {"..\\..\\round.bmp", size, "isn't the name of a bitmap in the tool folder."},
-      {"blank.bmp", size, "no picture /app\\tools\\blank.bmp Assign another bitmap"},
+      {"blank.bmp", size, "no file /app\\tools\\blank.bmp Assign another bitmap"},
       {"round.bmp", "TOOLHEIGHT=30", "\"round.ini\" needs a width above 0"},
-      {"round.bmp", "TOOLWIDTH=40\nTOOLHEIGHT=-3", "\"round.ini\" needs a height above 0"}};
+      {"round.bmp", "TOOLWIDTH=40\nTOOLHEIGHT=-3", "\"round.ini\" needs a height above 0"},
+      {"round.bmp", size, ""}};
   Fakes::PutPicture("/app/tools/round.bmp", TriangleTool(40, 30));
   Fakes::PutFile("/app/tools/blank.ini", size);
   Fakes::CollectMessages();
-  for (const auto& c : cases) {
-    Fakes::PutFile("/app/tools/ToolList.ini", "2=" + std::string(c.entry));
-    Fakes::PutFile("/app/tools/round.ini", c.description);
+  for (const auto& [entry, description, fault] : cases) {
+    Fakes::PutFile("/app/tools/ToolList.ini", "2=" + entry);
+    Fakes::PutFile("/app/tools/round.ini", description);
+    const std::size_t told = Fakes::Messages().size();
     Play({"[BILLET X20 Z20", "T2 M06"});
-    EXPECT_THAT(Fakes::Messages().back().text, testing::HasSubstr(c.fault));
-    EXPECT_EQ(67, Graphics::ToolDC.sprite.Width()) << c.fault;
+    EXPECT_EQ(fault.empty() ? 40 : 67, Graphics::ToolDC.sprite.Width()) << fault;
+    EXPECT_EQ(told + (fault.empty() ? 0 : 1), Fakes::Messages().size()) << fault;
+    EXPECT_THAT(Fakes::Messages().back().text, testing::HasSubstr(fault));
   }
-  Fakes::PutFile("/app/tools/round.ini", size);
-  Play({"[BILLET X20 Z20", "T2 M06"});
-  EXPECT_EQ(std::size(cases), Fakes::Messages().size());
-  EXPECT_EQ(40, Graphics::ToolDC.sprite.Width());
 }
 
 }  // namespace

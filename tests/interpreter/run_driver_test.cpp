@@ -10,17 +10,6 @@ using namespace ModCNC;
 
 class RunDriverTest : public MachineTest {};
 
-TEST_F(RunDriverTest, BilletThatCannotBeReadEndsTheRunAsNoBilletDoes) {
-  for (const char* row : {"G01 X5", "[billet X20 Z40", "[BILLET", "[BILLET X20", "[BILLET X20 Zoo",
-                          "[BILLET X-20 Z40", "[BILLET X20 Z3276.8", "[BILLET X Z40"}) {
-    GlobalVariables::BilletX = 66;
-    Fakes::ExpectMessage("Billet Size Not Found", Desktop::kCritical);
-    Play({row, "G01 X10"});
-    EXPECT_EQ(66, GlobalVariables::BilletX) << row;
-    EXPECT_FALSE(frmMain::Toolbar.Buttons("Stop").Enabled) << row;
-  }
-}
-
 TEST_F(RunDriverTest, StopEndsTheMoveAtTheNextPointAndTheRunAtTheNextRow) {
   Fakes::AtYield(6, frmMain::mnuRunStop_Click);
   Play({"[BILLET X20 Z40", "G00 X18 Z2", "G01 Z-40", "T7"});
@@ -41,19 +30,6 @@ TEST_F(RunDriverTest, APausedRunHaltsAtTheNextPointAndGoesOnWhenResumed) {
   });
   Play({"[BILLET X20 Z40", "G04", "G01 X18 Z2", "Z-40"});
   EXPECT_EQ(90, RadiusAt(-39));
-}
-
-TEST_F(RunDriverTest, StepPausesBehindEachRow) {
-  frmMain::mnuRunStepInto_Click();
-  std::vector<int> rows;
-  for (int i = 0; i < 2; ++i) {
-    Fakes::AtWait([&] {
-      rows.push_back(GlobalVariables::CurrentRow);
-      frmMain::mnuRunStart_Click();
-    });
-  }
-  Play({"[BILLET X20 Z40", "G00 X30 Z2", "[comment", "X28"});
-  EXPECT_EQ((std::vector{1, 3}), rows);
 }
 
 TEST_F(RunDriverTest, StopLeavesThePatternCycleAtTheNextRow) {
