@@ -34,10 +34,11 @@ TEST_F(RunCommandsTest, SteppingGoesFromPathToPathAndStopPlaysNoFurtherPoint) {
   std::int64_t played = 0;
   // The comment rows 0 and 2 play no path.
   for (const int row : {1, 3}) {
+    Fakes::AtWait([&] { played = GCodes::PointsPlayed; });
     Fakes::AtWait([&played, row] {
+      EXPECT_EQ(played, GCodes::PointsPlayed) << "a paused run waits";
       EXPECT_EQ(row, ExecutingRow());
       EXPECT_EQ("Step Start Stop ", OpenCommands());
-      played = GCodes::PointsPlayed;
       row == 1 ? mnuRunStart_Click() : mnuRunStop_Click();
     });
   }

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "debugger/debug_grid.h"
 #include "debugger/run_commands.h"
 #include "editor/editor_events.h"
 #include "interpreter/machine.h"
@@ -45,13 +46,11 @@ class MachineTest : public testing::Test {
     frmMain::Form_Resize();
   }
 
-  static constexpr Colour kToolColour = Rgb(90, 90, 90);
-
   static Raster TriangleTool(int width, int height) {
     Raster picture(width, height);
     picture.Fill(picture.Area(), kTransparent);
     for (int x = 0; x < width; ++x) {
-      picture.Fill({x, 0, x + 1, height - x}, kToolColour);
+      picture.Fill({x, 0, x + 1, height - x}, Rgb(90, 90, 90));
     }
     return picture;
   }
@@ -61,10 +60,7 @@ class MachineTest : public testing::Test {
     std::string text;
     for (std::size_t i = 0; i < lines.size(); ++i) text += (i > 0 ? "\r\n" : "") + lines[i];
     frmMain::TextEditor().SetText(text);
-    frmMain::DebugWindow.SetRows(static_cast<int>(lines.size()));
-    for (std::size_t i = 0; i < lines.size(); ++i) {
-      frmMain::DebugWindow.SetTextMatrix(static_cast<int>(i), frmMain::kTextColumn, lines[i]);
-    }
+    frmMain::FillDebugWindow();
     frmMain::EnableCommands("Start", true);
   }
 

@@ -8,7 +8,7 @@ namespace {
 
 using namespace ModCNC;
 
-class RunDriverTest : public MachineTest {};
+using RunDriverTest = MachineTest;
 
 TEST_F(RunDriverTest, StopEndsTheMoveAtTheNextPointAndTheRunAtTheNextRow) {
   Fakes::AtYield(6, frmMain::mnuRunStop_Click);
@@ -17,19 +17,6 @@ TEST_F(RunDriverTest, StopEndsTheMoveAtTheNextPointAndTheRunAtTheNextRow) {
   EXPECT_EQ(0, ToolNumber);
   EXPECT_EQ(0, CurrentZ);
   EXPECT_EQ(100, RadiusAt(-39));
-}
-
-TEST_F(RunDriverTest, APausedRunHaltsAtTheNextPointAndGoesOnWhenResumed) {
-  Fakes::AtYield(3, frmMain::mnuRunPause_Click);
-  std::int64_t pointsAtPause = -1;
-  Fakes::AtWait([&] { pointsAtPause = GCodes::PointsPlayed; });
-  Fakes::AtWait([&] {
-    EXPECT_EQ(pointsAtPause, GCodes::PointsPlayed);
-    EXPECT_EQ(3, frmMain::ProgressBar.Value) << "rows without a path pass through the pause";
-    frmMain::mnuRunStart_Click();
-  });
-  Play({"[BILLET X20 Z40", "G04", "G01 X18 Z2", "Z-40"});
-  EXPECT_EQ(90, RadiusAt(-39));
 }
 
 TEST_F(RunDriverTest, StopLeavesThePatternCycleAtTheNextRow) {
