@@ -80,10 +80,6 @@ namespace Desktop {
 
 void Yield() {
   if (++world.yields > kYieldBudget) throw std::runtime_error("the yields never end");
-  while (!world.keyQueue.empty()) {
-    const std::string keys = TakeFirst(world.keyQueue);
-    if (world.atSentKeys) world.atSentKeys(keys);
-  }
   if (const auto scripted = world.atYield.extract(world.yields)) scripted.mapped()();
   if (world.atEachYield) world.atEachYield();
 }
@@ -123,9 +119,7 @@ void ShowNotification(const std::string& text, int /*milliseconds*/, bool modal)
 
 void ShowSplash() {}
 
-void SendKeys(const std::string& keys) {
-  world.keyQueue.push_back(keys);
-}
+void SendKeys(const std::string& /*keys*/) {}
 
 bool StartProgram(const std::string& /*program*/, const std::string& /*path*/) {
   return false;

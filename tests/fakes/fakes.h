@@ -28,8 +28,6 @@ struct FakeWorld {
   std::vector<FakeMessage> messages;
   std::function<void()> atEachNotification;
   std::vector<std::string> notifications;
-  std::function<void(const std::string&)> atSentKeys;
-  std::deque<std::string> keyQueue;
   // To open or to save, and the path that is chosen.
   std::deque<std::pair<bool, std::string>> dialogs;
   bool ended = false;
@@ -76,12 +74,6 @@ class Fakes {
   static const std::vector<std::string>& Notifications() { return world.notifications; }
   // Runs `action` as each notification appears.
   static void AtEachNotification(Action action) { world.atEachNotification = std::move(action); }
-
-  // `focus` stands for the control that has the focus: it gets the keys that are sent, one call at
-  // a time, inside the next yield.
-  static void AtSentKeys(std::function<void(const std::string&)> focus) {
-    world.atSentKeys = std::move(focus);
-  }
 
   // The next file dialog must be one to open, or to save, and this path is chosen.
   static void ExpectOpenDialog(const std::string& path) { world.dialogs.emplace_back(true, path); }

@@ -13,3 +13,8 @@ N70 G00 Z-18
 N80 G00 X8
 [Halves go to the even neighbour: 4, 4, 4.1, 4.2, 4.2, 4.2, 4.3, 4.4, 4.4 from Z-18 on
 N90 G01 X8.8 Z-18.8
+N100 G00 X20
+N110 Z-19
+N120 X12
+[Steps are added one by one, so that the half at Z-19.5 falls a little short: radius 6.1
+N130 G01 X12.6 Z-20

@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
@@ -36,20 +35,6 @@ TEST(DesktopTest, AMessageBoxHasTheIconAndButtonsOfItsStyle) {
     QTest::keyClick(&box, Qt::Key_Return);
   });
   EXPECT_EQ(Desktop::kOk, Desktop::MessageBox("Full.", Desktop::kCritical, "Error!"));
-}
-
-TEST(DesktopTest, SentKeysReachTheFocusAtTheNextYield) {
-  QLineEdit edit;
-  edit.show();
-  edit.activateWindow();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&edit));
-  edit.setText("AB");
-  edit.setCursorPosition(0);
-  Desktop::SendKeys(Desktop::kRightArrowKeys);
-  Desktop::SendKeys("Zx ");
-  EXPECT_EQ("AB", edit.text());
-  Desktop::Yield();
-  EXPECT_EQ("AZx B", edit.text());
 }
 
 TEST(DesktopTest, TheProgramEndsWithoutAskingAWindow) {

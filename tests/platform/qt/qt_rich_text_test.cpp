@@ -40,7 +40,6 @@ class QtEditorTest : public testing::Test {
   QtEditorTest() {
     frmMain::ResetControlSurface();
     Settings = {};
-    Settings.AutoComplete = 1;
     Settings.EditorCharacterColor = kLetters;
     Settings.EditorIntegerColor = kNumbers;
     editor.Keys = {frmMain::TextEditor_KeyDown, frmMain::TextEditor_KeyPress,
@@ -78,14 +77,11 @@ TEST_F(QtEditorTest, TypedLettersAreRaisedAndColouredByTheirKeys) {
   EXPECT_TRUE(frmMain::Toolbar.Buttons("Save").Enabled);
 }
 
-TEST_F(QtEditorTest, ABracketOffersTheWordAndEnterTakesIt) {
-  QTest::keyClick(&editor, '[');
-  EXPECT_EQ("[BILLET", editor.Text());
-  EXPECT_EQ("BILLET", editor.SelText());
+TEST_F(QtEditorTest, ABracketOffersNothingWhenTheUserWantsNone) {
+  Settings.AutoComplete = 0;
+  TypeKeys("[");
   Press(Qt::Key_Return);
-  Desktop::Yield();
-  TypeKeys("x20");
-  EXPECT_EQ("[BILLET X20", editor.Text());
+  EXPECT_EQ("[\r\n", editor.Text());
 }
 
 TEST_F(QtEditorTest, SelectionCountsALineEndAsTwo) {
