@@ -26,12 +26,10 @@ class DocumentsTest : public MachineTest {
     Form_QueryUnload(cancel, kClosedByUser);
     EXPECT_EQ(Fakes::ProgramEnded(), cancel == kFalse);
   }
-  // "part.cnc*: G01, /part.cnc /other.cnc": name, star when modified, dash when there is nothing to
-  // start, text, recent files.
+  // "part.cnc*: G01, /part.cnc /other.cnc": name, star when modified, text, recent files.
   static std::string State() {
     std::string state = StatusBar.Panels("FileName").Text;
-    state += std::string(mnuFileSave.Enabled ? "*" : "") + (mnuRunStart.Enabled ? ": " : "-: ") +
-             TextEditor().Text() + ',';
+    state += (mnuFileSave.Enabled ? "*: " : ": ") + TextEditor().Text() + ',';
     for (std::int16_t i = 0; i < 5; ++i) {
       if (!RecentFilePath(i).empty()) state += ' ' + RecentFilePath(i);
     }
@@ -42,7 +40,7 @@ class DocumentsTest : public MachineTest {
 TEST_F(DocumentsTest, AsksBeforeChangesAreDropped) {
   const std::string other = "other.cnc: G28, /other.cnc /part.cnc";
   const std::pair<void (*)(), std::string> droppings[] = {
-      {mnuFileNew_Click, "Untitled-: , /part.cnc /other.cnc"},
+      {mnuFileNew_Click, "Untitled: , /part.cnc /other.cnc"},
       {mnuFileOpen_Click, other + " /other.cnc"},
       {[] { mnuFileRecentFiles_Click(1); }, other},
       {mnuFileExit_Click, "ended"},

@@ -67,6 +67,7 @@ class MachineTest : public testing::Test {
   // A document as it stands when it has just been opened.
   static RichText& Open(const std::string& text) {
     frmMain::TextEditor().SetText(text);
+    frmMain::FillDebugWindow();
     frmMain::EnableCommands("Save", false);
     frmMain::TextChanged = kFalse;
     return frmMain::TextEditor();
