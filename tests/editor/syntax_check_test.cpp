@@ -31,12 +31,11 @@ std::string Substance(std::string_view text) {
 // tells where the selection begins, how long it is, and style, title and text of the message.
 TEST_F(SyntaxCheckTest, StartShowsTheFirstFaultAndLosesNothing) {
   Fakes::CollectMessages();
-  const std::string folder = TURNBAY_SLIPS;
-  std::ifstream list(folder + "/expected.txt");
+  std::ifstream list(TURNBAY_SLIPS "/expected.txt");
   std::size_t slips = 0;
   for (std::string expected; std::getline(list, expected); ++slips) {
     const std::string name = expected.substr(0, expected.find(' '));
-    std::ifstream file(folder + '/' + name, std::ios::binary);
+    std::ifstream file(std::string(TURNBAY_SLIPS "/").append(name), std::ios::binary);
     const std::string bytes{std::istreambuf_iterator<char>(file), {}};
     RichText& editor = Open(bytes);
     frmMain::mnuRunStart_Click();
