@@ -33,23 +33,24 @@ void KeepRunGoing() {
   Require(Fakes::Yields() < 20 * kYieldBound, "a stopped run ends");
   if (Fakes::Yields() == kYieldBound) {
     frmMain::mnuRunStop_Click();
-  } else if (frmMain::Toolbar.Buttons("Start").Enabled) {
+  } else if (frmMain::IsRunPaused()) {
     frmMain::mnuRunStart_Click();
   }
 }
 
+// No more of a start-up than the bodies lean on: it would cost more than most inputs.
 void StartMachine() {
   Fakes::Reset();
   Fakes::CollectMessages();
-  Fakes::AtEachYield(KeepRunGoing);
   Fakes::PutPicture("/app/tools/tool.bmp", Raster(4, 4));
   Fakes::PutPicture("/app/tools/a.bmp", Raster(4, 4));
   frmMain::ResetToProgramStart();
+  GlobalVariables::LoadSettings();
+  frmMain::EnableCommands("Save,Print,Step,Start,Pause,Stop", false);
   // A window whose simulation area comes out as 90 by 10 pixels, so that the pictures cost less
   // than the program.
   frmMain::ScaleWidth = 117;
   frmMain::ScaleHeight = 73;
-  frmMain::Form_Load();
   frmMain::Form_Resize();
 }
 
@@ -57,6 +58,7 @@ void StartMachine() {
 
 void Program(std::string_view bytes) {
   StartMachine();
+  Fakes::AtEachYield(KeepRunGoing);
   frmMain::Slider.Value = SliderControl::kMax;
   RichText& editor = frmMain::TextEditor();
   editor.SetText(WithCrLf(DecodeProgram(bytes).text));
