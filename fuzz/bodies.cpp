@@ -26,10 +26,10 @@ void Require(bool holds, const char* promise) {
   if (!holds) throw std::logic_error(promise);
 }
 
-// Resumes a paused run, and stops one that has yielded often enough for its path to have some
-// thousand points. After that it leaves within its row.
+// Resumes a paused run, and stops one that has yielded often enough for a thousand points of its
+// path. After that it leaves within its row.
 void KeepRunGoing() {
-  constexpr int kYieldBound = 400;
+  constexpr int kYieldBound = 100;
   Require(Fakes::Yields() < 20 * kYieldBound, "a stopped run ends");
   if (Fakes::Yields() == kYieldBound) {
     frmMain::mnuRunStop_Click();
