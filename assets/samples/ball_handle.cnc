@@ -39,33 +39,42 @@ N320 G00 Z2
 N330 G00 X100 Z50
 N340 T02 M06 [Tool 2, finishing. It can fall by up to 50 degrees
 N350 S1400 M03
-[Rough the neck behind the ball in two cuts
-N360 G00 X34 Z-17
-N370 G01 X31.2 F150
-N380 G01 X27 Z-26
-N390 G01 X29 Z-48
-N400 G01 X34
-N410 G00 Z-18
-N420 G01 X31
-N430 G01 X23 Z-28.5
-N440 G01 X23.5 Z-36
-N450 G01 X28.6 Z-54.5
-N460 G01 X34
-N470 G00 Z2
+[Rough the neck behind the ball in straight cuts, each deeper and shorter
+N360 G00 X34 Z-20
+N370 G01 X29 F150
+N380 G01 Z-55.5
+N390 G01 X34
+N400 G00 Z-22.5
+N410 G01 X26.6
+N420 G01 Z-49.5
+N430 G01 X34
+N440 G00 Z-24.5
+N450 G01 X24.2
+N460 G01 Z-41.5
+N470 G01 X34
+N480 G00 Z-27
+N490 G01 X21.8
+N500 G01 Z-32
+N510 G01 X28.6 Z-55 [Along the handle, which is a taper
+N520 G01 X34
+N530 G00 Z2
 [Finish: touch the tip of the ball and follow the contour
-N480 G00 X4
-N490 G01 X0 Z0 F120
-N500 G03 X24 Z-24 R15 [The ball. It ends below its centre, where it is 24 mm across
+[Come in along Z alone: the 3D view draws an arc right behind a G01 that moves
+[X and Z at once as one straight taper
+N540 G00 X0
+N550 G01 Z0 F120
+N560 G03 X24 Z-24 R15 [The ball. It ends below its centre, where it is 24 mm across
 [The neck by I and K, the way from the start of the arc to its centre:
 [I8 is 8 mm outwards on the radius, K-6 is 6 mm along Z, so the radius is 10
-N510 G02 X20 Z-30 I8 K-6
-N520 G01 X28 Z-56 [The handle grows thicker towards the collar
-N530 G02 X32 Z-58 I2 K0 [Fillet into the collar
-N540 G03 X36 Z-60 R2 [Round edge of the collar
-N550 G01 Z-70
-N560 G01 X38
-N570 G01 X42 Z-72
-N580 G28 X60 Z5
-N590 M09
-N600 M05
-N610 M30
+N570 G02 X20 Z-30 I8 K-6
+N580 G01 X28 Z-55.5 [The handle grows thicker towards the collar
+N590 G01 Z-56 [A short straight cut, so that the fillet is an arc in 3D too
+N600 G02 X32 Z-58 I2 K0 [Fillet into the collar
+N610 G03 X36 Z-60 R2 [Round edge of the collar
+N620 G01 Z-70
+N630 G01 X38
+N640 G01 X42 Z-72
+N650 G28 X60 Z5
+N660 M09
+N670 M05
+N680 M30
