@@ -14,8 +14,10 @@ N70 G73 P200 Q300 U0.2 W0 F160
 N80 S1600 M03
 [The contour runs once more behind the cycle, unshifted: the finishing cut
 [All arcs meet without a corner
-N200 G00 X4 Z2
-N210 G01 X0 Z0 F100
+[Come to the nose along Z alone: the 3D view draws arcs right behind a G01 that
+[moves X and Z at once as one straight taper
+N200 G00 X0 Z2
+N210 G01 Z0 F100
 N220 G03 X19.2 Z-7.2 R10 [Nose
 N230 G03 X19.2 Z-35.2 R50 [Grip, 23.2 mm across in its middle, at Z-21.2
 N240 G02 X27.2 Z-57.2 R25 [Waist, 17.2 mm across at Z-42.2
