@@ -49,23 +49,25 @@ N410 G00 X100 Z50
 [The flanks of 45 degrees and the round bottom for the belt, radius 3
 N420 T02 M06
 N430 S1300 M03
-N440 G00 X46 Z-6.757
-N450 G01 X42 Z-8.757 F100 [The groove begins
-N460 G01 X31.757 Z-13.879
-N470 G02 X31.757 Z-18.121 R3 [The bottom is 30 mm across, at Z-16
-N480 G01 X42 Z-23.243
-N490 G01 X46 Z-25.243
-N500 G00 X100 Z50
+N440 G00 X46 Z-6.657
+N450 G01 X42 Z-8.657 F100 [The groove begins
+N460 G01 X31.757 Z-13.779
+[A straight cut of 0.1 mm: right behind a taper the 3D view shows no arc
+N470 G01 Z-13.879
+N480 G02 X31.757 Z-18.121 R3 [The bottom is 30 mm across, at Z-16
+N490 G01 X42 Z-23.243
+N500 G01 X46 Z-25.243
+N510 G00 X100 Z50
 [Part off at the back of the rim. The blade is 2.5 mm wide and lies left of it:
 [from Z-28.5 to Z-26
 [The 3D view shows this cut only as wide as its left corner, the cutting point
-N510 T05 M06 [Tool 5, parting off
-N520 S500 M03
-N530 G00 X46 Z-28.5
-N540 G01 X0 F40
-N550 G01 X46
-N560 G00 Z5 [Clear the part before going home
-N570 G28 U0 W0 [Straight home from here
-N580 M09
-N590 M05
-N600 M30
+N520 T05 M06 [Tool 5, parting off
+N530 S500 M03
+N540 G00 X46 Z-28.5
+N550 G01 X0 F40
+N560 G01 X46
+N570 G00 Z5 [Clear the part before going home
+N580 G28 U0 W0 [Straight home from here
+N590 M09
+N600 M05
+N610 M30
