@@ -11,13 +11,13 @@ N50 G00 X50 Z2
 N60 G90 X42.6 Z-75.8 F200
 N70 X37.5 Z-57 [The cycle is modal: new words, next cut
 N80 X32.6 Z-54.8
+N90 X29 Z-40.8
 [Rough the taper with the same cycle. R is start minus end, on the radius
-[The cut begins at Z2, where the taper is 17.2 mm across: R = (17.2 - 28) / 2
+[The cut begins at Z2, where the taper is 17.5 mm across: R = (17.5 - 28) / 2
 [R counts for one cut only, so each row needs it again
-N90 X38 Z-40.8 R-5.4
-N100 X34.5 R-5.4
-N110 X31.5 R-5.4
-N120 X28.6 R-5.4
+N100 X35 Z-39.8 R-5.25
+N110 X32 R-5.25
+N120 X28.6 R-5.25
 N130 G00 X100 Z50
 N140 T02 M06 [Tool 2, finishing. Its slim insert can follow falling tapers
 N150 S1400 M03
@@ -29,9 +29,9 @@ N190 G01 Z-75.6
 N200 G01 X48
 N210 G00 Z2
 [Finish the contour
-N220 G00 X14 Z1
-N230 G01 X18 Z-1 F120 [Chamfer
-N240 G01 X28 Z-41 [Taper 1 to 4
+N220 G00 X17.5 Z2
+N230 G01 X28 Z-40 F120 [Taper 1 to 4, begun in the air
+N240 G01 Z-41 [Straight: tapers that touch are one taper in the 3D view
 N250 G01 X30
 N260 G01 U2 W-1 [Chamfer 1 mm: U and W count from where the tool is
 N270 G01 Z-55
