@@ -9,7 +9,6 @@
 #include <QScreen>
 #include <QScrollBar>
 #include <QSlider>
-#include <QTimer>
 #include <QWindow>
 
 #include "debugger/debug_grid.h"
@@ -159,7 +158,7 @@ void Window::BindPlaces() {
   bindings_.Bind(StatusBar.Visible, [this](bool visible) {
     statusBar_->setVisible(visible);
     // The controls cover the form, so that it has no paint of its own.
-    QTimer::singleShot(0, form_, Form_Paint);
+    QMetaObject::invokeMethod(form_, Form_Paint, Qt::QueuedConnection);
   });
 }
 
@@ -181,7 +180,7 @@ void Window::FormResized() {
   ScaleHeight = form_->height();
   if (!isVisible()) return;
   Form_Resize();
-  QTimer::singleShot(0, form_, Form_Paint);
+  QMetaObject::invokeMethod(form_, Form_Paint, Qt::QueuedConnection);
 }
 
 void Window::changeEvent(QEvent* event) {
@@ -208,10 +207,11 @@ void Window::dropEvent(QDropEvent* event) {
   const std::string file = DraggedFile(*event->mimeData()).toStdString();
   event->acceptProposedAction();
   // Whoever is dragged from waits until this has returned, but the save question may take long.
-  QTimer::singleShot(0, this, [this, file] {
+  const auto open = [this, file] {
     activateWindow();
     OpenProgram(file);
-  });
+  };
+  QMetaObject::invokeMethod(this, open, Qt::QueuedConnection);
 }
 
 bool Window::eventFilter(QObject* watched, QEvent* event) {

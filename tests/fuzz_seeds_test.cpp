@@ -25,7 +25,7 @@ bool SeedsReach(const char* corpus, void (*body)(std::string_view), bool (*goal)
 }
 
 TEST(FuzzSeedsTest, EverySeedPasses) {
-  EXPECT_TRUE(SeedsReach("program", Fuzz::Program, [] { return GCodes::PointsPlayed > 1000; }));
+  EXPECT_TRUE(SeedsReach("program", Fuzz::Program, [] { return GCodes::PointsPlayed > 500; }));
   EXPECT_TRUE(SeedsReach("settings", Fuzz::Settings,
                          [] { return GlobalVariables::Settings.EditorFontSize == 12; }));
   EXPECT_TRUE(SeedsReach("tool_files", Fuzz::ToolFiles, [] { return Graphics::ToolWidth == 40; }));
