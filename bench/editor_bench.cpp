@@ -51,7 +51,7 @@ void TypeAndTakeBack(benchmark::State& state, Editor& editor, Qt::Key key, const
   editor.setFocus();
   Desktop::Yield();
   bool isTyped = false;
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto iteration : state) {
     PressKey(editor, isTyped ? Qt::Key_Backspace : key, isTyped ? QString() : text);
     isTyped = !isTyped;
   }
@@ -93,7 +93,7 @@ void MoveColouredText(benchmark::State& state) {
   editor.resize(400, 900);
   editor.show();
   bool isOne = false;
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto iteration : state) {
     editor.SetTextRTF(isOne ? other : one);
     isOne = !isOne;
     Desktop::Yield();
@@ -110,7 +110,7 @@ void RecolourTheSameText(benchmark::State& state) {
   editor.SetTextRTF(coloured);
   editor.show();
   bool isBold = false;
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto iteration : state) {
     editor.SetTextRTF(isBold ? coloured : bold);
     isBold = !isBold;
     Desktop::Yield();
@@ -121,7 +121,7 @@ void ColourCharacterByCharacter(benchmark::State& state) {
   const FormattedText coloured = ColouredText(FullText());
   QtRichText editor;
   editor.show();
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto iteration : state) {
     editor.SetText(coloured.text);
     for (std::size_t i = 0; i < kColouredOneByOne; ++i) {
       editor.SetSelStart(i);
@@ -137,7 +137,7 @@ void ShowLongestGrid(benchmark::State& state) {
   GridView view(table, {});
   view.resize(300, 900);
   view.show();
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto iteration : state) {
     table.SetRows(1);
     Desktop::Yield();
     table.SetRows(32'767);

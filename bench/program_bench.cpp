@@ -75,7 +75,7 @@ void WholeProgram(benchmark::State& state) {
                      frmMain::kDefaultToolHeight);
   GCodes::PointsPlayed = 0;
   // The run alone: Start would fill the rows from the editor.
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto iteration : state) {
     GlobalVariables::StopRequested = kFalse;
     Graphics::ClearSurface();
     ModCNC::RunProgram();
@@ -99,7 +99,7 @@ void PatternCycle(benchmark::State& state) {
   frmMain::TextEditor().SetText(text);
   frmMain::EnableCommands("Start", true);
   GCodes::PointsPlayed = 0;
-  for (auto _ : state) frmMain::mnuRunStart_Click();
+  for ([[maybe_unused]] auto iteration : state) frmMain::mnuRunStart_Click();
   state.counters["points"] =
       benchmark::Counter(static_cast<double>(GCodes::PointsPlayed), benchmark::Counter::kIsRate);
 }
@@ -108,7 +108,7 @@ BENCHMARK(PatternCycle)->Arg(20)->Arg(80)->Unit(benchmark::kMillisecond);
 void DecodeAlone(benchmark::State& state) {
   StartProgram();
   ModCNC::ActiveG = -1;  // no executor
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto iteration : state) {
     ModCNC::ExecuteBlock("N120 X24.5 Z-12.35 F0.2 S800 T2");
     benchmark::DoNotOptimize(ModCNC::TargetX);
   }

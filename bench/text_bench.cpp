@@ -34,7 +34,7 @@ void Start() {
 
 void PlainScan(benchmark::State& state) {
   const std::string text = ProgramOf(static_cast<std::size_t>(state.range(0)));
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto iteration : state) {
     benchmark::DoNotOptimize(std::count_if(text.begin(), text.end(), [](char c) {
       return std::string_view("FGIKMNPQRSTUWXZ0123456789.-+").find(c) != std::string_view::npos;
     }));
@@ -46,7 +46,7 @@ void Check(benchmark::State& state) {
   Start();
   const std::string text = ProgramOf(static_cast<std::size_t>(state.range(0)));
   frmMain::TextEditor().SetText(text);
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto iteration : state) {
     if (frmMain::CheckSyntax(frmMain::TextEditor())) state.SkipWithError("the program has a fault");
   }
   state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(text.size()));
@@ -55,7 +55,7 @@ void Check(benchmark::State& state) {
 void Colour(benchmark::State& state) {
   Start();
   const std::string text = ProgramOf(static_cast<std::size_t>(state.range(0)));
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto iteration : state) {
     frmMain::TextBuffer().SetText(text);
     frmMain::ColourText();
   }
@@ -67,7 +67,7 @@ void Reformat(benchmark::State& state) {
   Start();
   const std::string text = ProgramOf(static_cast<std::size_t>(state.range(0)));
   frmMain::TextEditor().SetText(text);
-  for (auto _ : state) frmMain::ReformatText(frmMain::TextEditor());
+  for ([[maybe_unused]] auto iteration : state) frmMain::ReformatText(frmMain::TextEditor());
   state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(text.size()));
 }
 
@@ -75,7 +75,8 @@ void FindBilletAtTheEnd(benchmark::State& state) {
   Start();
   frmMain::TextEditor().SetText(ProgramOf(static_cast<std::size_t>(state.range(0))).substr(15) +
                                 "\r\n[BILLET X1 Z1");
-  for (auto _ : state) benchmark::DoNotOptimize(frmMain::TextEditor().Find("[BILLET"));
+  for ([[maybe_unused]] auto iteration : state)
+    benchmark::DoNotOptimize(frmMain::TextEditor().Find("[BILLET"));
 }
 
 void FillRows(benchmark::State& state) {
@@ -83,7 +84,7 @@ void FillRows(benchmark::State& state) {
   std::string text;
   for (int i = 1; i < state.range(0); ++i) text += "G01 X20\r\n";
   frmMain::TextEditor().SetText(text);
-  for (auto _ : state) frmMain::FillDebugWindow();
+  for ([[maybe_unused]] auto iteration : state) frmMain::FillDebugWindow();
   state.SetItemsProcessed(state.iterations() * state.range(0));
 }
 

@@ -102,7 +102,7 @@ void Turnbay(benchmark::State& state) {
   const std::vector<PixelPoint> points = MakePoints();
   const int readEvery = static_cast<int>(state.range(0));
   StockSurface surface;
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto iteration : state) {
     state.PauseTiming();
     surface.Create(kWidth, kHeight, kBack);
     surface.Fill(kBillet, kWorkPiece);
@@ -143,7 +143,7 @@ void Painter(benchmark::State& state) {
   const QImage flipped = silhouette.mirrored();
   const std::vector<PixelPoint> points = MakePoints();
   QImage surface(kWidth, kHeight, QImage::Format_RGB32);
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto iteration : state) {
     state.PauseTiming();
     surface.fill(ToQt(kBack));
     QPainter painter(&surface);
@@ -208,7 +208,7 @@ void SdlRle(benchmark::State& state) {
     SDL_Rect place{at.x, at.y, 0, 0};
     SDL_BlitSurface(source.surface, nullptr, surface.surface, &place);
   };
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto iteration : state) {
     state.PauseTiming();
     SDL_FillRect(surface.surface, nullptr, kBack);
     const SDL_Rect billet{kBillet.left, kBillet.top, kBillet.right, kBillet.bottom - kBillet.top};

@@ -56,7 +56,7 @@ class Bench {
 
 void Turn(benchmark::State& state) {
   Bench bench(state);
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto iteration : state) {
     bench.part.RotY -= 1;
     bench.part.DrawWorld();
     bench.part.Display();
@@ -65,18 +65,18 @@ void Turn(benchmark::State& state) {
 
 void DrawWorld(benchmark::State& state) {
   Bench bench(state);
-  for (auto _ : state) bench.part.DrawWorld();
+  for ([[maybe_unused]] auto iteration : state) bench.part.DrawWorld();
 }
 
 void Display(benchmark::State& state) {
   Bench bench(state);
-  for (auto _ : state) bench.part.Display();
+  for ([[maybe_unused]] auto iteration : state) bench.part.Display();
 }
 
 void RingsByGluAlone(benchmark::State& state) {
   const Bench bench(state);
   GLUquadric* quadric = gluNewQuadric();
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto iteration : state) {
     glNewList(1, GL_COMPILE);
     for (int i = 0; i < state.range(0); ++i) {
       glTranslatef(0, 0, -0.02F);
