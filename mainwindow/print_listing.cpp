@@ -22,6 +22,13 @@ Listing EditorListing() {
   return {QString::fromStdString(StatusBar.Panels("FileName").Text), TextEditor().TextRTF(), font};
 }
 
+std::string Failure(const QPrinter& printer) {
+  const std::string file = printer.outputFileName().toStdString();
+  if (file.empty()) return "The printer doesn't take the program. Look after it, and print again.";
+  return "The program can't be printed to \"" + file +
+         "\". Choose another folder, or make room on the disk.";
+}
+
 }  // namespace
 
 void mnuFilePrint_Click() {
@@ -33,7 +40,7 @@ void mnuFilePrint_Click() {
   QPrintDialog dialog(&printer, QApplication::activeWindow());
   if (dialog.exec() != QDialog::Accepted) return;
   if (!PrintListing(listing, printer)) {
-    Desktop::MessageBox("The program can't be printed.", Desktop::kCritical, "Error!");
+    Desktop::MessageBox(Failure(printer), Desktop::kCritical, "Error!");
   }
 }
 
