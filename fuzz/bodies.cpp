@@ -38,6 +38,12 @@ void KeepRunGoing() {
   }
 }
 
+// A cycle without moves doesn't yield, but its tool changes and other M words can be many.
+void StopWhatNotifiesForEver() {
+  constexpr std::size_t kNotificationBound = 1'000;
+  if (Fakes::Notifications().size() == kNotificationBound) frmMain::mnuRunStop_Click();
+}
+
 // No more of a start-up than the bodies lean on: it would cost more than most inputs.
 void StartMachine() {
   Fakes::Reset();
@@ -59,6 +65,7 @@ void StartMachine() {
 void Program(std::string_view bytes) {
   StartMachine();
   Fakes::AtEachYield(KeepRunGoing);
+  Fakes::AtEachNotification(StopWhatNotifiesForEver);
   frmMain::Slider.Value = SliderControl::kMax;
   RichText& editor = frmMain::TextEditor();
   editor.SetText(WithCrLf(DecodeProgram(bytes).text));
