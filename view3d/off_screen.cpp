@@ -3,6 +3,7 @@
 #include <EGL/egl.h>
 #include <EGL/eglext.h>
 #include <GL/gl.h>
+#include <array>
 #include <cstdlib>
 
 namespace {
@@ -22,6 +23,20 @@ constexpr EGLint kConfig[] = {EGL_SURFACE_TYPE,
                               EGL_NONE};
 constexpr Colour kWithoutAlpha = 0xFFFFFF;
 
+// The first of 24 colour bits: those of 30, which cost more, come first. Null if there is none.
+EGLConfig ChooseConfig(EGLDisplay display) {
+  std::array<EGLConfig, 64> configs{};
+  EGLint count = 0;
+  eglChooseConfig(display, kConfig, configs.data(), static_cast<EGLint>(configs.size()), &count);
+  for (EGLint i = 0; i < count; ++i) {
+    EGLConfig config = configs.at(static_cast<std::size_t>(i));
+    EGLint redBits = 0;
+    eglGetConfigAttrib(display, config, EGL_RED_SIZE, &redBits);
+    if (redBits == 8) return config;
+  }
+  return nullptr;
+}
+
 }  // namespace
 
 bool OffScreen::Create(int width, int height, std::string& reason) {
@@ -32,10 +47,8 @@ bool OffScreen::Create(int width, int height, std::string& reason) {
     reason = "OpenGL without a display isn't available here.";
     return false;
   }
-  EGLConfig config = nullptr;
-  EGLint count = 0;
-  eglChooseConfig(display_, kConfig, &config, 1, &count);
-  if (count > 0) context_ = eglCreateContext(display_, config, EGL_NO_CONTEXT, nullptr);
+  EGLConfig config = ChooseConfig(display_);
+  if (config != nullptr) context_ = eglCreateContext(display_, config, EGL_NO_CONTEXT, nullptr);
   if (context_ == EGL_NO_CONTEXT) {
     reason = "OpenGL has no fixed pipeline here.";
     return false;
