@@ -4,6 +4,7 @@
 #include "editor/documents.h"
 #include "interpreter/machine.h"
 #include "mainwindow/frm_main.h"
+#include "platform/qt/application_folder.h"
 
 namespace {
 
@@ -23,6 +24,9 @@ int main(int argc, char** argv) {
   QApplication::setApplicationName("turnbay");
   QApplication::setApplicationVersion(TURNBAY_VERSION);
   QApplication::setWindowIcon(ProgramIcon());
+  // Under Wayland the icon comes from the desktop entry.
+  QApplication::setDesktopFileName("turnbay");
+  UseUsersApplicationFolder();
   frmMain::Window window;
   window.Load();
   if (frmMain::WindowClosed != kFalse) return 0;

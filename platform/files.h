@@ -7,8 +7,8 @@
 // Files by path. A path is UTF-8. One that uses "\" as well as "/" is found without regard to case.
 // On failure `reason` says why in words that a user knows, with the file's name.
 
-// The folder of the program file, which holds tools, sounds, samples and the help. No separator at
-// its end.
+// The folder that holds tools, sounds, samples and the help: in a build tree that of the program
+// file, else the installed one or the user's own copy of it. No separator at its end.
 std::string ApplicationFolder();
 
 // The largest file that is read, in bytes; far beyond any program.

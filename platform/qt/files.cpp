@@ -1,6 +1,5 @@
 #include "platform/files.h"
 
-#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 
@@ -16,10 +15,6 @@ std::string Reason(const QString& path, const QString& why) {
 }
 
 }  // namespace
-
-std::string ApplicationFolder() {
-  return QCoreApplication::applicationDirPath().toStdString();
-}
 
 std::optional<std::string> ReadFile(const std::string& path, std::string& reason) {
   const QString resolved = ResolvePath(path);
