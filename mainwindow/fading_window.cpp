@@ -1,9 +1,9 @@
 #include "mainwindow/fading_window.h"
 
-#include <QApplication>
 #include <QKeyEvent>
-#include <QMainWindow>
 #include <QPainterPath>
+
+#include "platform/qt/dialog_owner.h"
 
 namespace {
 
@@ -22,14 +22,6 @@ QRegion RoundedRegion() {
   QPainterPath outline;
   outline.addRoundedRect(QRect({0, 0}, kRegion), kCornerRadius, kCornerRadius);
   return QRegion(outline.toFillPolygon().toPolygon());
-}
-
-// Null before it is on the screen.
-QWidget* MainWindowOnScreen() {
-  for (QWidget* window : QApplication::topLevelWidgets()) {
-    if (window->isVisible() && qobject_cast<QMainWindow*>(window) != nullptr) return window;
-  }
-  return nullptr;
 }
 
 }  // namespace

@@ -45,8 +45,9 @@ class InfoWindow : public FadingWindow {
   }
 
   void ShowModeless() {
-    // The user may be typing.
+    // The user may be typing, and not every window manager heeds the first of these.
     setAttribute(Qt::WA_ShowWithoutActivating);
+    setWindowFlag(Qt::WindowDoesNotAcceptFocus);
     show();
   }
 
@@ -56,6 +57,7 @@ class InfoWindow : public FadingWindow {
     hide();
     destroy();
     setAttribute(Qt::WA_ShowWithoutActivating, false);
+    setWindowFlag(Qt::WindowDoesNotAcceptFocus, false);
     FadeIn();
     exec();
   }

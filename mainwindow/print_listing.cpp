@@ -1,12 +1,13 @@
 #include "mainwindow/print_listing.h"
 
-#include <QApplication>
 #include <QPrintDialog>
 #include <QPrinter>
 
+#include "debugger/row_edit.h"
 #include "mainwindow/control_surface.h"
 #include "mainwindow/listing.h"
 #include "platform/desktop.h"
+#include "platform/qt/dialog_owner.h"
 #include "settings/settings.h"
 
 namespace frmMain {
@@ -32,12 +33,13 @@ std::string Failure(const QPrinter& printer) {
 }  // namespace
 
 void mnuFilePrint_Click() {
+  txtDebug_LostFocus();
   const Listing listing = EditorListing();
   QPrinter printer(QPrinter::HighResolution);
   printer.setDocName(listing.title);
   constexpr double margin = kMarginMillimetres;
   printer.setPageMargins({margin, margin, margin, margin}, QPageLayout::Millimeter);
-  QPrintDialog dialog(&printer, QApplication::activeWindow());
+  QPrintDialog dialog(&printer, DialogOwner());
   if (dialog.exec() != QDialog::Accepted) return;
   if (!PrintListing(listing, printer)) {
     Desktop::MessageBox(Failure(printer), Desktop::kCritical, "Error!");

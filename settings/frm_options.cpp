@@ -1,11 +1,12 @@
 #include "settings/frm_options.h"
 
-#include <QApplication>
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "debugger/row_edit.h"
 #include "mainwindow/control_surface.h"
+#include "platform/qt/dialog_owner.h"
 #include "platform/qt/picture_strip.h"
 #include "settings/frm_options_debug.h"
 #include "settings/frm_options_editor.h"
@@ -111,8 +112,9 @@ void OptionsDialog::cmdOK_Click() {
 namespace frmMain {
 
 void mnuToolsOptions_Click() {
+  txtDebug_LostFocus();
   Tag.clear();
-  frmOptions::OptionsDialog(QApplication::activeWindow()).exec();
+  frmOptions::OptionsDialog(DialogOwner()).exec();
   if (Tag == "OK") ApplyOptions();
 }
 

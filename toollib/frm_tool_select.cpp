@@ -1,6 +1,5 @@
 #include "toollib/frm_tool_select.h"
 
-#include <QApplication>
 #include <QComboBox>
 #include <QDir>
 #include <QFormLayout>
@@ -17,6 +16,7 @@
 #include "platform/desktop.h"
 #include "platform/pictures.h"
 #include "platform/qt/colours.h"
+#include "platform/qt/dialog_owner.h"
 #include "platform/qt/paths.h"
 #include "platform/qt/picture_strip.h"
 #include "settings/settings.h"
@@ -311,7 +311,7 @@ std::optional<QString> ToolLibraryDialog::ChosenFile() const {
 namespace frmMain {
 
 void mnuToolLibrary_Click() {
-  frmToolSelect::ToolLibraryDialog(QApplication::activeWindow()).exec();
+  frmToolSelect::ToolLibraryDialog(DialogOwner()).exec();
 }
 
 }  // namespace frmMain

@@ -1,11 +1,11 @@
 #include "platform/dialogs.h"
 
-#include <QApplication>
 #include <QColorDialog>
 #include <QFileDialog>
 #include <QFileInfo>
 
 #include "platform/qt/colours.h"
+#include "platform/qt/dialog_owner.h"
 
 namespace {
 
@@ -29,7 +29,7 @@ QStringList NameFilters(const std::string& filter) {
 }
 
 bool Show(CommonDialog& com, QFileDialog::AcceptMode mode) {
-  QFileDialog dialog(QApplication::activeWindow());
+  QFileDialog dialog(DialogOwner());
   const bool isOpen = mode == QFileDialog::AcceptOpen;
   dialog.setAcceptMode(mode);
   dialog.setFileMode(isOpen && (com.Flags & kFileMustExist) != 0 ? QFileDialog::ExistingFile
@@ -56,7 +56,7 @@ bool CommonDialog::ShowSave() {
 }
 
 bool CommonDialog::ShowColor() {
-  QColorDialog dialog(ToQColor(Color), QApplication::activeWindow());
+  QColorDialog dialog(ToQColor(Color), DialogOwner());
   if (dialog.exec() != QDialog::Accepted) return false;
   Color = FromQColor(dialog.selectedColor());
   return true;

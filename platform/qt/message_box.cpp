@@ -1,7 +1,7 @@
-#include <QApplication>
 #include <QMessageBox>
 
 #include "platform/desktop.h"
+#include "platform/qt/dialog_owner.h"
 
 namespace {
 
@@ -33,7 +33,7 @@ constexpr ButtonAnswer kYesNoCancelButtons[] = {
 namespace Desktop {
 
 int MessageBox(const std::string& text, int style, const std::string& title) {
-  QMessageBox box(QApplication::activeWindow());
+  QMessageBox box(DialogOwner());
   box.setWindowTitle(QString::fromStdString(title.empty() ? kProgramTitle : title));
   // Texts come from programs and files: nothing in them is markup.
   box.setTextFormat(Qt::PlainText);

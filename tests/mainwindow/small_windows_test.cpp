@@ -10,6 +10,7 @@
 #include "mainwindow/frm_splash.h"
 #include "mainwindow/listing.h"
 #include "mainwindow/notifications.h"
+#include "platform/desktop.h"
 
 namespace {
 
@@ -46,6 +47,24 @@ TEST(SmallWindowsTest, AModalNotificationTakesTheWindowOverForItsOwnTime) {
   EXPECT_TRUE(early.hasExpired() && !late.hasExpired());
   frmMain::ShowInfoWindow(0, 50);
   EXPECT_TRUE(QTest::qWaitFor([] { return Up("frmInfo") == nullptr; }));
+}
+
+TEST(SmallWindowsTest, AMessageBoxOutlivesTheNotificationThatIsActive) {
+  frmMain::ShowInfoWindow(0, 50);
+  Up("frmInfo")->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(Up("frmInfo")));
+  bool isUp = false;
+  QTimer user;
+  user.callOnTimeout([&] {
+    if (Up("frmInfo") != nullptr) return;
+    QWidget* box = QApplication::activeModalWidget();
+    isUp = box != nullptr;
+    if (isUp) box->close();
+    user.stop();
+  });
+  user.start(50);
+  Desktop::MessageBox("Value of Radius is too small to draw");
+  EXPECT_TRUE(isUp);
 }
 
 TEST(SmallWindowsTest, TheProgramEndsBehindAModalNotification) {
