@@ -10,6 +10,7 @@
 #include "interpreter/run_driver.h"
 #include "mainwindow/control_surface.h"
 #include "mainwindow/view_toggles.h"
+#include "motion/pattern_cycle.h"
 #include "motion/player.h"
 #include "motion/stock.h"
 #include "motion/tool.h"
@@ -71,6 +72,8 @@ void PlayRows() {
 void PlayProgram() {
   runActive = true;
   GlobalVariables::StopRequested = kFalse;
+  // The former run may have ended between the two blocks of a cycle.
+  GCodes::CycleArmed = kFalse;
   CloseCommandsForRun();
   Graphics::LoadTool(GlobalVariables::ToolFolder() + "tool.bmp", kDefaultToolWidth,
                      kDefaultToolHeight);

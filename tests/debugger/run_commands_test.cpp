@@ -46,6 +46,20 @@ TEST_F(RunCommandsTest, SteppingGoesFromPathToPathAndStopPlaysNoFurtherPoint) {
   EXPECT_EQ(played, GCodes::PointsPlayed);
 }
 
+TEST_F(RunCommandsTest, ACycleThatLacksItsSecondBlockDoesNotReachIntoTheNextRun) {
+  const std::vector<std::string> cycle{"[BILLET X20 Z40", "G00 X22 Z1", "G73 U4 W2 R3",
+                                       "G73 P1 Q2 U0 W0", "N1 G01 X16", "N2 Z-10"};
+  const auto points = [](const std::vector<std::string>& lines) {
+    const std::int64_t before = GCodes::PointsPlayed;
+    Show(lines);
+    mnuRunStart_Click();
+    return GCodes::PointsPlayed - before;
+  };
+  const std::int64_t whole = points(cycle);
+  points({cycle.begin(), cycle.begin() + 3});
+  EXPECT_EQ(whole, points(cycle));
+}
+
 TEST_F(RunCommandsTest, ARunToBreakPointShowsNothingUntilItPausesThereWithoutSound) {
   Show(kProgram);
   ClickMark(2);
