@@ -23,6 +23,9 @@ namespace {
 constexpr const char* kErrorTitle = "Error!";
 constexpr const char* kFilter = "CNC Code Files|*.cnc|All Files|*.*";
 
+// Of the document's file; empty for a document without one.
+std::string documentPath;
+
 void ShowError(const std::string& reason) {
   Desktop::MessageBox(reason, Desktop::kCritical, kErrorTitle);
 }
@@ -56,7 +59,8 @@ void PrepareFileDialog() {
   com.Filter = kFilter;
 }
 
-void ShowName(const std::string& path) {
+void NameDocument(const std::string& path) {
+  documentPath = path;
   StatusBar.Panels("FileName").Text = GetFileName(path);
 }
 
@@ -73,7 +77,7 @@ void ShowProgram(const std::string& path) {
   }
   ColourText();
   EnableCommands("Start,Print,Step", true);
-  ShowName(path);
+  NameDocument(path);
   UpdateRecentFiles(path, -1);
   FillRows();
 }
@@ -86,6 +90,7 @@ void mnuFileNew_Click() {
   DocumentIsUtf8 = false;
   DebugWindow.SetRows(1);
   if (!mnuViewTextEditor.Checked) mnuViewTextEditor_Click();
+  documentPath.clear();
   StatusBar.Panels("FileName").Text = kUntitled;
   EnableCommands("Save,Print,Start,Step,Pause,Stop", false);
   if (picSim.Cls) picSim.Cls();
@@ -111,7 +116,7 @@ void mnuFileRecentFiles_Click(std::int16_t index) {
     return;
   }
   ColourText();
-  ShowName(path);
+  NameDocument(path);
   EnableCommands("Start,Print,Step", true);
   EnableCommands("Save", false);
   UpdateRecentFiles(mnuFileRecentFiles.at(static_cast<std::size_t>(index)).Caption, index);
@@ -126,7 +131,7 @@ void mnuFileSave_Click() {
   }
   const std::string path = RecentFilePath(0);
   // A second window that has opened another file shares the list; its file must not be hit.
-  if (GetFileName(path) != DocumentName()) {
+  if (path != documentPath) {
     ShowError("The list of recent files no longer begins with \"" + DocumentName() +
               "\"; another Turnbay may have opened a program. Choose Save As to name the file.");
     return;
@@ -143,11 +148,13 @@ void mnuFileSave_Click() {
 void mnuFileSaveAS_Click() {
   txtDebug_LostFocus();
   PrepareFileDialog();
+  // What is offered: the document's own name, whatever was opened in between.
+  com.FileName = documentPath;
   if (!com.ShowSave()) return;
   std::string reason;
   if (!SaveFile(com.FileName, reason)) return;
   EnableCommands("Save", false);
-  ShowName(com.FileName);
+  NameDocument(com.FileName);
   UpdateRecentFiles(com.FileName, -1);
 }
 
@@ -173,6 +180,7 @@ void Form_Unload() {
 void ResetDocuments() {
   WindowClosed = kFalse;
   DocumentIsUtf8 = false;
+  documentPath.clear();
 }
 
 }  // namespace frmMain

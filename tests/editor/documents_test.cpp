@@ -3,6 +3,7 @@
 #include "editor/editor_events.h"
 #include "editor/recent_files.h"
 #include "mainwindow/view_toggles.h"
+#include "platform/settings_store.h"
 #include "tests/fakes/machine_test.h"
 
 namespace {
@@ -78,6 +79,22 @@ TEST_F(DocumentsTest, SaveAsksForANameOnceAndTellsWhyItFails) {
   Fakes::ExpectMessage({"The disk is full.", kCritical, "Error!"});
   mnuFileNew_Click();
   EXPECT_EQ("copy*: G03, /b/copy", State());
+}
+
+// The list is shared with a second window, which opens another file of the same name.
+TEST_F(DocumentsTest, OnlyTheDocumentsOwnFileIsSavedOver) {
+  Open("/a/part.cnc", "G00");
+  Type("G01");
+  SaveSetting("CNC", "RecentFilePaths", "0", "/b/part.cnc");
+  Fakes::ExpectMessage(
+      {"The list of recent files no longer begins with \"part.cnc\"; another Turnbay may have "
+       "opened a program. Choose Save As to name the file.",
+       kCritical, "Error!"});
+  mnuFileSave_Click();
+  Fakes::ExpectSaveDialog("/c/part.cnc");
+  mnuFileSaveAS_Click();
+  EXPECT_EQ("/a/part.cnc", Fakes::OfferedName());
+  EXPECT_EQ("part.cnc: G01, /c/part.cnc /b/part.cnc", State());
 }
 
 TEST_F(DocumentsTest, TheRecentListLastsAndBringsFilesBack) {

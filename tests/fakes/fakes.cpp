@@ -46,7 +46,7 @@ bool AnswerDialog(bool isOpen, CommonDialog& dialog) {
     ADD_FAILURE() << "unexpected file dialog to " << (isOpen ? "open" : "save");
     return false;
   }
-  dialog.FileName = TakeFirst(world.dialogs).second;
+  world.offeredName = std::exchange(dialog.FileName, TakeFirst(world.dialogs).second);
   return true;
 }
 

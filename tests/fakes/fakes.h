@@ -30,6 +30,7 @@ struct FakeWorld {
   std::vector<std::string> notifications;
   // To open or to save, and the path that is chosen.
   std::deque<std::pair<bool, std::string>> dialogs;
+  std::string offeredName;
   bool ended = false;
   std::vector<int> sleeps;
   std::vector<std::string> sounds;
@@ -78,6 +79,9 @@ class Fakes {
   // The next file dialog must be one to open, or to save, and this path is chosen.
   static void ExpectOpenDialog(const std::string& path) { world.dialogs.emplace_back(true, path); }
   static void ExpectSaveDialog(const std::string& path) { world.dialogs.emplace_back(false, path); }
+
+  // The file name with which the last dialog came up.
+  static const std::string& OfferedName() { return world.offeredName; }
 
   // True once the program has been told to end.
   static bool ProgramEnded() { return world.ended; }
