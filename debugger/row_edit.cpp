@@ -69,6 +69,10 @@ void PlaceEditBox() {
                      .Height = Settings.DebugRowHeight / kTwipsPerPixel};
 }
 
+bool EditChangesRow() {
+  return HasRow(EditRow) && txtDebug.Text.Get() != DebugWindow.TextMatrix(EditRow, kTextColumn);
+}
+
 void TakeEditOver() {
   // First, since hiding the box takes the focus from it.
   txtDebug.Visible = false;
@@ -105,7 +109,12 @@ void txtDebug_KeyUp(std::int16_t keyCode, std::int16_t /*shift*/) {
 }
 
 void txtDebug_LostFocus() {
-  if (txtDebug.Visible) TakeEditOver();
+  if (!txtDebug.Visible) return;
+  if (EditChangesRow()) {
+    TakeEditOver();
+  } else {
+    txtDebug.Visible = false;
+  }
 }
 
 void txtDebug_Follow() {

@@ -16,11 +16,11 @@ void DebugWindow_DblClick();
 // Enter takes the edit over, Esc drops it. The text is taken as typed.
 void txtDebug_KeyUp(std::int16_t keyCode, std::int16_t shift);
 
-// Takes an open edit over, as Enter does, so that nothing typed is lost. Also for commands that
-// read or replace the program while the edit box may still be open.
+// Closes an open edit, and takes over what has been typed, as Enter does, so that it isn't lost.
+// Also for commands that read or replace the program or lay out its rows while the box may be open.
 void txtDebug_LostFocus();
 
-// Keeps an open edit over its row when the grid has been scrolled.
+// Keeps an open edit over its row when the grid has been scrolled or resized.
 void txtDebug_Follow();
 
 void ResetRowEdit();

@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include "debugger/row_edit.h"
 #include "debugger/run_commands.h"
 #include "editor/colouring.h"
 #include "interpreter/machine.h"
@@ -60,6 +61,7 @@ void ReformatText(RichText& editor) {
 }
 
 void mnuToolsReformatText_Click() {
+  txtDebug_LostFocus();
   ReformatText(TextEditor());
 }
 

@@ -17,6 +17,8 @@ class CodePageValidator : public QValidator {
  public:
   using QValidator::QValidator;
   State validate(QString& text, int& /*place*/) const override {
+    // A row is one line: those of a pasted text are joined by blanks.
+    text.replace("\r\n", " ").replace('\r', ' ').replace('\n', ' ');
     return Utf8ToCodePage(text.toStdString()) ? Acceptable : Invalid;
   }
 };

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "debugger/row_edit.h"
 #include "interpreter/machine.h"
 #include "mainwindow/control_surface.h"
 #include "motion/stock.h"
@@ -63,6 +64,7 @@ void ResizeControls() {
   GlobalVariables::SimWidth = WholePixels(picSim.Bounds.Get().Width);
   GlobalVariables::SimHeight = WholePixels(height);
   Graphics::CreateSurface();
+  txtDebug_Follow();
 }
 
 void Form_Resize() {

@@ -4,7 +4,13 @@ using namespace frmMain;
 
 namespace {
 
-class RowEditTest : public DebuggerTest {};
+class RowEditTest : public DebuggerTest {
+ protected:
+  static void LeaveUnchanged() {
+    txtDebug.Text = RowText(EditRow);
+    txtDebug_LostFocus();
+  }
+};
 
 TEST_F(RowEditTest, WhatTakesAnOpenEditOver) {
   struct Case {
@@ -15,6 +21,7 @@ TEST_F(RowEditTest, WhatTakesAnOpenEditOver) {
   for (const Case& c : {Case{"Esc", [] { txtDebug_KeyUp(27, 0); }, false, false},
                         {"Enter", PressEnter, false, true},
                         {"focus", txtDebug_LostFocus, false, true},
+                        {"nothing typed", LeaveUnchanged, false, false},
                         {"other row", [] { OpenEdit(0, "G00 X1"); }, true, true},
                         {"view", mnuViewTextEditor_Click, false, true}}) {
     Show({"G00 X1", "G00 X2"});

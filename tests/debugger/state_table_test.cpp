@@ -43,6 +43,7 @@ class StateTableTest : public DebuggerTest {
   int Refused = 0;
 
  private:
+  static bool EditDiffers() { return txtDebug.Visible && RowText(EditRow) != txtDebug.Text.Get(); }
   int Pick(std::size_t count) { return static_cast<int>(random_() % count); }
 
   void Act() {
@@ -50,9 +51,9 @@ class StateTableTest : public DebuggerTest {
     // Behind the last row too, where there is none; never the billet line.
     const int row = 1 + Pick(static_cast<std::size_t>(DebugWindow.Rows() + 1));
     const int command = Pick(12);
-    // These take an open edit over.
+    // These take over what is typed in an open edit; Enter does so even if it is the same.
     const bool takesOver = command < 2 || (command < 4 && mnuView.Enabled);
-    modified_ = modified_ || (txtDebug.Visible && takesOver);
+    modified_ = modified_ || (takesOver && (command == 1 ? txtDebug.Visible.Get() : EditDiffers()));
     if (command == 0) OpenEdit(row, kBlocks[Pick(std::size(kBlocks))]);
     if (command == 1) PressEnter();
     if (command == 2 && mnuView.Enabled) mnuViewTextEditor_Click();
@@ -70,7 +71,7 @@ class StateTableTest : public DebuggerTest {
 
   // With a run on the stack the command may resume it or do nothing, but never play.
   void PressStart(void (*command)()) {
-    modified_ = modified_ || txtDebug.Visible;
+    modified_ = modified_ || EditDiffers();
     const bool isFirst = !runOnStack_;
     if (!isFirst) ++Refused;
     const int yields = Fakes::Yields();
