@@ -80,9 +80,12 @@ QtRichText::QtRichText(QWidget* parent) : QTextEdit(parent) {
     typedEnd_ = -1;
     changed_ = !quiet_;
   });
-  // This signal comes after the layout has followed, but doesn't tell a format from a text.
+  // This signal comes after the layout has followed, but doesn't tell a format from a text: undo
+  // may take back nothing but colours.
   connect(document(), &QTextDocument::contentsChanged, this, [this] {
-    if (std::exchange(changed_, false)) NotifyChange();
+    if (!std::exchange(changed_, false)) return;
+    const std::string former = text_;
+    if (Text() != former) NotifyChange();
   });
   connect(this, &QTextEdit::cursorPositionChanged, this, &QtRichText::ShowSelFormat);
   connect(this, &QTextEdit::selectionChanged, this, &QtRichText::ShowSelFormat);

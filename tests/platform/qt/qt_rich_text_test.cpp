@@ -130,6 +130,11 @@ TEST_F(QtEditorTest, EachUserEditIsHeardOnce) {
   Press(Qt::Key_A, Qt::ControlModifier);
   TypeKeys("M");
   editor.undo();
+  // Colours the number that it passes, which is no change of the text, nor is taking it back.
+  editor.SetSelStart(1);
+  Press(Qt::Key_Right, Qt::ShiftModifier);
+  Press(Qt::Key_Right, Qt::ShiftModifier);
+  Press(Qt::Key_Z, Qt::ControlModifier);
   EXPECT_EQ("G||G00\r\nZ5|M|G00\r\nZ5|", heard);
 }
 
