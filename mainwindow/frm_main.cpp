@@ -140,19 +140,32 @@ void Window::MakeOverlays() {
   connect(slider_, &QSlider::valueChanged, this, [](int value) { frmMain::Slider.Value = value; });
 }
 
+// The keyboard goes over to the other pane. Qt would give it to the next control, the slider.
+void Window::ShowPane(QWidget& pane, QWidget& other, bool visible) {
+  const QWidget* user = focusWidget();
+  const bool leaves = !visible && (user == &pane || pane.isAncestorOf(user));
+  if (leaves) focusWidget()->clearFocus();
+  pane.setVisible(visible);
+  if (leaves && !other.isHidden()) other.setFocus();
+  if (visible && focusWidget() == nullptr) pane.setFocus();
+}
+
 void Window::BindPlaces() {
   const auto bind = [this](Control& control, QWidget& widget) {
     bindings_.Bind(control.Bounds, [&](const ControlBounds& bounds) { Place(widget, bounds); });
     bindings_.Bind(control.Visible, [&](bool visible) { widget.setVisible(visible); });
   };
   bind(Toolbar, *toolBar_);
-  bind(DebugWindow, *grid_);
   bind(picSim, *picture_);
   bind(frmMain::ProgressBar, *progress_);
   bind(frmMain::Slider, *slider_);
   bindings_.Bind(TextEditorBounds,
                  [this](const ControlBounds& bounds) { Place(*editor_, bounds); });
-  bindings_.Bind(editor_->Visible, [this](bool visible) { editor_->setVisible(visible); });
+  bindings_.Bind(editor_->Visible, [this](bool visible) { ShowPane(*editor_, *grid_, visible); });
+  bindings_.Bind(DebugWindow.Bounds,
+                 [this](const ControlBounds& bounds) { Place(*grid_, bounds); });
+  bindings_.Bind(DebugWindow.Visible,
+                 [this](bool visible) { ShowPane(*grid_, *editor_, visible); });
   bindings_.Bind(StatusBar.Bounds,
                  [this](const ControlBounds& bounds) { Place(*statusBar_, bounds); });
   bindings_.Bind(StatusBar.Visible, [this](bool visible) {

@@ -36,6 +36,7 @@ class Window : public QMainWindow {
   void MakeGrid();
   void MakePicture();
   void MakeOverlays();
+  void ShowPane(QWidget& pane, QWidget& other, bool visible);
   void BindPlaces();
   void FollowFocus();
   void FormResized();

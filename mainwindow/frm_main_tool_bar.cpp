@@ -1,6 +1,7 @@
 #include "mainwindow/frm_main_tool_bar.h"
 
 #include <QAction>
+#include <QContextMenuEvent>
 #include <QMenu>
 #include <QToolButton>
 
@@ -74,6 +75,7 @@ void ToolBarView::AddButton(const char* key, void (*click)()) {
   QWidget* widget = widgetForAction(action);
   widget->setObjectName(key);
   widget->setAccessibleName(key);
+  widget->installEventFilter(this);
   bindings_.Bind(button.Enabled, [action](bool enabled) { action->setEnabled(enabled); });
   bindings_.Bind(button.Caption,
                  [this, action](const std::string& caption) { ShowCaption(*action, caption); });
@@ -89,6 +91,13 @@ void ToolBarView::ShowCaption(QAction& action, const std::string& caption) {
   ControlBounds bounds = Toolbar.Bounds;
   bounds.Height = sizeHint().height();
   Toolbar.Bounds = bounds;
+}
+
+// A disabled button keeps the event from the tool bar.
+bool ToolBarView::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() != QEvent::ContextMenu) return QToolBar::eventFilter(watched, event);
+  ShowMenu(mapFromGlobal(static_cast<const QContextMenuEvent&>(*event).globalPos()));
+  return true;
 }
 
 void ToolBarView::ShowMenu(const QPoint& place) {

@@ -19,6 +19,9 @@ class ToolBarView : public QToolBar {
  public:
   explicit ToolBarView(QWidget* parent);
 
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
  private:
   void AddButton(const char* key, void (*click)());
   void ShowCaption(QAction& action, const std::string& caption);

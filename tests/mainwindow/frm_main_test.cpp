@@ -1,6 +1,8 @@
 #include "mainwindow/frm_main.h"
 
 #include <QApplication>
+#include <QClipboard>
+#include <QContextMenuEvent>
 #include <QDropEvent>
 #include <QFile>
 #include <QLabel>
@@ -212,6 +214,32 @@ TEST_F(WindowTest, ARunIsPausedEditedSteppedAndStopped) {
   EXPECT_EQ(16, x());
   EXPECT_LT(-30, z()) << "stopped on the way";
   EXPECT_TRUE(IsOpen("Start") && IsOpen("Save") && IsOpen("New"));
+  EXPECT_EQ(&The<QTableView>("DebugWindow"), QApplication::focusWidget());
+  Choose("mnuViewTextEditor");
+  EXPECT_EQ(&The<QTextEdit>("TextEditor"), QApplication::focusWidget());
+}
+
+TEST_F(WindowTest, ARowTakesPastedLinesAsOneAndIsFollowedByItsEdit) {
+  OpenWithProgram();
+  Choose("mnuViewDebugWindow");
+  DoubleClickRow(2);
+  auto& box = The<QLineEdit>("txtDebug");
+  box.selectAll();
+  QApplication::clipboard()->setText("G01 X10\nZ-5");
+  QTest::keyClick(&box, Qt::Key_V, Qt::ControlModifier);
+  EXPECT_EQ("G01 X10 Z-5", box.text());
+  const QWidget& grid = The<QTableView>("DebugWindow");
+  const int width = grid.width();
+  window->showNormal();
+  window->resize(500, 400);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return grid.width() < width; }));
+  EXPECT_LT(box.geometry().right(), grid.width());
+  // On a button that is closed, too.
+  QContextMenuEvent press(QContextMenuEvent::Mouse, {3, 3},
+                          The<QToolButton>("Pause").mapToGlobal(QPoint(3, 3)));
+  QApplication::sendEvent(&The<QToolButton>("Pause"), &press);
+  EXPECT_TRUE(The<QMenu>("mnuToolBar").isVisible());
+  The<QMenu>("mnuToolBar").close();
 }
 
 TEST_F(WindowTest, ABreakPointStopsARunThatClosesWithTheWindow) {
