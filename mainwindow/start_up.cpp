@@ -70,12 +70,17 @@ void Form_Load() {
   }
 }
 
-void ApplySettings() {
+void ApplyEditorFont() {
   const GlobalVariables::SettingsRecord& settings = GlobalVariables::Settings;
-  TextEditor().BackColor = settings.EditorBackColor;
   TextEditor().Font.Name = settings.EditorFontName;
   TextEditor().SetSelFontSize(settings.EditorFontSize);
   TextEditor().SetSelBold(settings.EditorFontBold != 0);
+}
+
+void ApplySettings() {
+  const GlobalVariables::SettingsRecord& settings = GlobalVariables::Settings;
+  TextEditor().BackColor = settings.EditorBackColor;
+  ApplyEditorFont();
   ApplyDebugWindowLayout();
   picSim.BackColor = settings.SimBackColor;
   mnuToolBarShowLabels.Checked = !StoredMark("Toolbar", "ShowLabels", true);

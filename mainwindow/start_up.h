@@ -11,4 +11,8 @@ void Form_Load();
 // Yields.
 void ApplySettings();
 
+// Face, size and weight to the editor; a text that stands in it keeps size and weight, unless it is
+// selected.
+void ApplyEditorFont();
+
 }  // namespace frmMain

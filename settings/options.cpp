@@ -6,6 +6,7 @@
 #include "debugger/debug_grid.h"
 #include "editor/colouring.h"
 #include "mainwindow/control_surface.h"
+#include "mainwindow/start_up.h"
 #include "motion/stock.h"
 #include "platform/numbers.h"
 #include "platform/settings_store.h"
@@ -54,6 +55,8 @@ void ApplyOptions() {
   const bool saveWasEnabled = Toolbar.Buttons("Save").Enabled;
   TextBuffer().SetText(TextEditor().Text());
   ColourText();
+  // Without a text the colouring has nothing to bring the font to.
+  if (TextEditor().Text().empty()) ApplyEditorFont();
   EnableCommands("Save", saveWasEnabled);
   Graphics::CreateSurface();
   picSim.BackColor = GlobalVariables::Settings.SimBackColor;

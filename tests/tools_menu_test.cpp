@@ -116,10 +116,13 @@ TEST_F(ToolsMenuTest, OptionsChangeStoreAndWindowsWithOkAlone) {
       Press(name);
     }
   });
+  frmMain::TextEditor().SetText("");
+  frmMain::TextEditor().SetSelFontSize(30);
   frmMain::mnuToolsOptions_Click();
   expected = GlobalVariables::DefaultSettings();
   expected.DebugRowHeight = 285 + 8 * 15;
   EXPECT_TRUE(expected == Settings);
+  EXPECT_EQ(expected.EditorFontSize, frmMain::TextEditor().SelFontSize()) << "without a text, too";
 }
 
 TEST_F(ToolsMenuTest, ToolLibrarySavesByCloseAlone) {
