@@ -1,7 +1,9 @@
 // Plays a part program without a window: for scripts, batch checks and tests.
 
 #include <QCoreApplication>
+#include <cerrno>
 #include <cstdio>
+#include <cstring>
 #include <string>
 #include <string_view>
 #include <unistd.h>
@@ -94,18 +96,26 @@ bool Play(bool runToBreakpoint) {
   return GlobalVariables::StopRequested == kTrue;
 }
 
-void PrintProgram() {
-  const std::string& text = frmMain::TextEditor().Text();
-  const std::string bytes = frmMain::DocumentIsUtf8 ? CodePageToUtf8(text) : text;
-  std::fwrite(bytes.data(), 1, bytes.size(), stdout);
+bool Print(std::string_view bytes) {
+  if (std::fwrite(bytes.data(), 1, bytes.size(), stdout) == bytes.size() &&
+      std::fflush(stdout) == 0) {
+    return true;
+  }
+  SayTrouble(std::string("Standard output can't be written: ") + std::strerror(errno) + '.');
+  return false;
 }
 
-// Only what --reformat and --check ask for. Returns false when the text has a fault.
-bool ReformatAndCheck(const PlayOptions& options) {
-  RichText& editor = frmMain::TextEditor();
-  frmMain::ReformatText(editor);
-  if (options.reformat) PrintProgram();
-  return !options.check || !frmMain::CheckSyntax(editor);
+bool WriteFile(const std::string& path, std::string_view bytes) {
+  if (path == "-") return Print(bytes);
+  std::string reason;
+  if (ReplaceFile(path, bytes, reason)) return true;
+  SayTrouble(reason);
+  return false;
+}
+
+bool PrintProgram() {
+  const std::string& text = frmMain::TextEditor().Text();
+  return Print(frmMain::DocumentIsUtf8 ? CodePageToUtf8(text) : text);
 }
 
 // Tells where in the file the last message belongs. `offset` counts in the text as played.
@@ -120,17 +130,6 @@ void SayPlace(const PlayOptions& options, std::string_view source, std::size_t o
 std::size_t BilletOffset() {
   const std::ptrdiff_t found = frmMain::TextEditor().Find("[BILLET");
   return found < 0 ? 0 : static_cast<std::size_t>(found);
-}
-
-bool WriteFile(const std::string& path, std::string_view bytes) {
-  if (path == "-") {
-    return std::fwrite(bytes.data(), 1, bytes.size(), stdout) == bytes.size() &&
-           std::fflush(stdout) == 0;
-  }
-  std::string reason;
-  if (ReplaceFile(path, bytes, reason)) return true;
-  SayTrouble(reason);
-  return false;
 }
 
 std::string_view View(const QByteArray& bytes) {
@@ -176,7 +175,13 @@ int main(int argc, char** argv) {
 
   const bool isToPlay = !options.check && !options.reformat;
   PlayOutcome outcome;
-  outcome.hasFault = isToPlay ? !Play(options.runToBreakpoint) : !ReformatAndCheck(options);
+  if (isToPlay) {
+    outcome.hasFault = !Play(options.runToBreakpoint);
+  } else {
+    frmMain::ReformatText(frmMain::TextEditor());
+    if (options.reformat && !PrintProgram()) return kFileTrouble;
+    outcome.hasFault = options.check && frmMain::CheckSyntax(frmMain::TextEditor());
+  }
   // Every run that finds its billet makes a profile.
   const bool lacksBillet = isToPlay && !outcome.hasFault && Graphics::StockProfile.empty();
   if (outcome.hasFault) {

@@ -1,6 +1,7 @@
 #include "platform/desktop.h"
 
 #include <cstdio>
+#include <unistd.h>
 #include <utility>
 
 #include "platform/notifications.h"
@@ -46,6 +47,8 @@ void Sleep(int /*milliseconds*/) {}
 
 int MessageBox(const std::string& text, int style, const std::string& title) {
   messages.push_back({text, style, title});
+  // In place of the progress of the run.
+  if (isatty(STDERR_FILENO) != 0) std::fputs("\r\x1b[K", stderr);
   std::fprintf(stderr, "%s%s%s\n", title.c_str(), title.empty() ? "" : " ", text.c_str());
   // The first button is the default one.
   return (style & kYesNoCancel) == kYesNoCancel ? kYes : kOk;

@@ -45,6 +45,11 @@ TEST_F(PlayerTest, WrongUsageAndUnreadableFilesEndWithTwoAndAReason) {
     EXPECT_TRUE(err_.contains(reason)) << err_.toStdString();
     EXPECT_TRUE(out_.isEmpty());
   }
+  player_.setStandardOutputFile("/dev/full");
+  for (const QStringList& printing : {QStringList{"--reformat"}, QStringList{"--report", "-"}}) {
+    EXPECT_EQ(2, Run(printing + QStringList{"good.cnc"}));
+    EXPECT_TRUE(err_.contains("No space left")) << err_.toStdString();
+  }
 }
 
 TEST_F(PlayerTest, AFaultIsToldAtItsPlaceInTheFile) {
