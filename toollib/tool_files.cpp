@@ -133,7 +133,7 @@ void GetToolList() {
   std::vector<int> numbers;
   std::array<bool, kToolCount> listed{};
   ForEachRecord(*bytes, [&](std::string_view number, std::string_view fileName) {
-    const auto n = ParseInt16(number);
+    const auto n = ParseInt16(Trim(number));
     if (!n || *n < 0 || *n >= kToolCount) return;
     const auto index = static_cast<std::size_t>(*n);
     ToolFiles[index] = CodePageToUtf8(fileName);
