@@ -26,17 +26,19 @@ constexpr std::int16_t kNoFunction = -1;
 }  // namespace
 
 void DecodeGWord(std::string_view word) {
-  const auto number = ParseInt16(word.substr(1));
-  if (!number) return;
+  const auto value = ParseNumber(word.substr(1));
+  if (!value) return;
+  // One beyond 16 bits names no function, as any other number that is in neither table.
+  const auto number = RoundToInt16(*value);
   for (const UnitRule& unit : kUnits) {
-    if (unit.number == *number) {
+    if (number == unit.number) {
       frmMain::StatusBar.Panels("Dim").Text = unit.panelText;
       return;
     }
   }
   ActiveG = kNoFunction;
   for (const std::int16_t function : kModalFunctions) {
-    if (function == *number) ActiveG = function;
+    if (number == function) ActiveG = function;
   }
 }
 
