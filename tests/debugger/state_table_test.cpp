@@ -49,7 +49,7 @@ class StateTableTest : public DebuggerTest {
   void Act() {
     if (commandsLeft_ > 0) --commandsLeft_;
     // Behind the last row too, where there is none; never the billet line.
-    const int row = 1 + Pick(static_cast<std::size_t>(DebugWindow.Rows() + 1));
+    const int row = 1 + Pick(static_cast<std::size_t>(DebugWindow.Rows()) + 1);
     const int command = Pick(12);
     // These take over what is typed in an open edit; Enter does so even if it is the same.
     const bool takesOver = command < 2 || (command < 4 && mnuView.Enabled);
