@@ -76,6 +76,10 @@ std::string RowText(std::int16_t row) {
 void ExecuteRow(std::string_view text) {
   if (!text.empty() && text.front() == '[') return;
   ExecuteBlock(text.substr(0, text.find('[')));
+  // Stop has zeroed the position, and a run to a break point shows nothing.
+  if (StopRequested == kFalse && RunToBreakpoint == kFalse) {
+    Graphics::ShowToolAt(CurrentZ, CurrentX);
+  }
   Desktop::Yield();
 }
 

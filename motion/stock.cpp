@@ -108,6 +108,12 @@ void MoveTool(int z, int x) {
   StockDC.MoveTool(ToolDC, from, {LastToolX, LastToolY}, {column, CentreLine + x});
 }
 
+void ShowToolAt(int z, int x) {
+  toolZ = z;
+  toolX = x;
+  ShowToolPosition();
+}
+
 void DrawSurface() {
   ShowToolPosition();
   if (!frmMain::picSim.Blt) return;

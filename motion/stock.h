@@ -46,6 +46,10 @@ void InitStock(std::int16_t z, std::int16_t x);
 // Writes StockProfile, StockDC, LastToolX, LastToolY.
 void MoveTool(int z, int x);
 
+// Writes the panel "ToolPosition" alone. MoveTool's positions stand there from the next DrawSurface
+// on, but the last one that a rapid move plays lies up to 5 units before its end.
+void ShowToolAt(int z, int x);
+
 // Copies what has changed of the surface to picSim, and the tool's position to its panel.
 void DrawSurface();
 

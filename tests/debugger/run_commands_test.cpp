@@ -46,6 +46,12 @@ TEST_F(RunCommandsTest, SteppingGoesFromPathToPathAndStopPlaysNoFurtherPoint) {
   EXPECT_EQ(played, GCodes::PointsPlayed);
 }
 
+TEST_F(RunCommandsTest, ARapidMoveEndsWhereItIsProgrammed) {
+  Show({"[BILLET X20 Z40", "G00 X30.4 Z1.3"});
+  mnuRunStart_Click();
+  EXPECT_EQ("X 30.4  Z 1.3", StatusBar.Panels("ToolPosition").Text.Get());
+}
+
 TEST_F(RunCommandsTest, ACycleThatLacksItsSecondBlockDoesNotReachIntoTheNextRun) {
   const std::vector<std::string> cycle{"[BILLET X20 Z40", "G00 X22 Z1", "G73 U4 W2 R3",
                                        "G73 P1 Q2 U0 W0", "N1 G01 X16", "N2 Z-10"};
