@@ -2,11 +2,13 @@
 
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QTemporaryDir>
 
 #include "debugger/row_edit.h"
 #include "mainwindow/control_surface.h"
 #include "mainwindow/listing.h"
 #include "platform/desktop.h"
+#include "platform/files.h"
 #include "platform/qt/dialog_owner.h"
 #include "settings/settings.h"
 
@@ -23,8 +25,18 @@ Listing EditorListing() {
   return {QString::fromStdString(StatusBar.Panels("FileName").Text), TextEditor().TextRTF(), font};
 }
 
-std::string Failure(const QPrinter& printer) {
-  const std::string file = printer.outputFileName().toStdString();
+// Prints a file as a whole or leaves the old one.
+bool PrintToFile(const Listing& listing, QPrinter& printer, const std::string& file) {
+  const QTemporaryDir folder;
+  const QString fresh = folder.filePath("listing.pdf");
+  printer.setOutputFileName(fresh);
+  if (!PrintListing(listing, printer)) return false;
+  std::string reason;
+  const auto bytes = ReadFile(fresh.toStdString(), reason);
+  return bytes && ReplaceFile(file, *bytes, reason);
+}
+
+std::string Failure(const std::string& file) {
   if (file.empty()) return "The printer doesn't take the program. Look after it, and print again.";
   return "The program can't be printed to \"" + file +
          "\". Choose another folder, or make room on the disk.";
@@ -41,9 +53,10 @@ void mnuFilePrint_Click() {
   printer.setPageMargins({margin, margin, margin, margin}, QPageLayout::Millimeter);
   QPrintDialog dialog(&printer, DialogOwner());
   if (dialog.exec() != QDialog::Accepted) return;
-  if (!PrintListing(listing, printer)) {
-    Desktop::MessageBox(Failure(printer), Desktop::kCritical, "Error!");
-  }
+  const std::string file = printer.outputFileName().toStdString();
+  const bool printed =
+      file.empty() ? PrintListing(listing, printer) : PrintToFile(listing, printer, file);
+  if (!printed) Desktop::MessageBox(Failure(file), Desktop::kCritical, "Error!");
 }
 
 }  // namespace frmMain

@@ -32,6 +32,8 @@ bool Show(CommonDialog& com, QFileDialog::AcceptMode mode) {
   QFileDialog dialog(DialogOwner());
   const bool isOpen = mode == QFileDialog::AcceptOpen;
   dialog.setAcceptMode(mode);
+  // Not every desktop's own dialog has a title of its own.
+  dialog.setWindowTitle(isOpen ? "Open" : "Save As");
   dialog.setFileMode(isOpen && (com.Flags & kFileMustExist) != 0 ? QFileDialog::ExistingFile
                                                                  : QFileDialog::AnyFile);
   dialog.setOption(QFileDialog::DontConfirmOverwrite, (com.Flags & kOverwritePrompt) == 0);
