@@ -4,6 +4,7 @@
 #include "editor/documents.h"
 #include "interpreter/machine.h"
 #include "mainwindow/frm_main.h"
+#include "platform/desktop.h"
 #include "platform/qt/application_folder.h"
 
 namespace {
@@ -26,7 +27,12 @@ int main(int argc, char** argv) {
   QApplication::setWindowIcon(ProgramIcon());
   // Under Wayland the icon comes from the desktop entry.
   QApplication::setDesktopFileName("turnbay");
-  UseUsersApplicationFolder();
+  if (!UseUsersApplicationFolder()) {
+    Desktop::MessageBox(
+        "Your home folder can't take the tools and samples. Those of the installation are used, "
+        "and no change of the tool list can be saved. Make room, and start again.",
+        Desktop::kCritical, "Error!");
+  }
   frmMain::Window window;
   window.Load();
   if (frmMain::WindowClosed != kFalse) return 0;

@@ -61,11 +61,13 @@ bool FillApplicationFolder(const QString& installed, const QString& users) {
   return true;
 }
 
-void UseUsersApplicationFolder() {
-  if (InBuildTree()) return;
+bool UseUsersApplicationFolder() {
+  if (InBuildTree()) return true;
   const QString users =
       QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + "/turnbay";
-  if (FillApplicationFolder(ProgramsFolder(), users)) usersFolder = users;
+  if (!FillApplicationFolder(ProgramsFolder(), users)) return false;
+  usersFolder = users;
+  return true;
 }
 
 std::string ApplicationFolder() {

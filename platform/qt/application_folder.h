@@ -9,6 +9,6 @@
 bool FillApplicationFolder(const QString& installed, const QString& users);
 
 // For a program in which the user edits tools: from here on ApplicationFolder is the user's own,
-// filled from the installed one. It stays the program's in a build tree, and when the user's can't
-// be filled.
-void UseUsersApplicationFolder();
+// filled from the installed one. It stays the program's in a build tree. False, and it is the
+// installed one, when the user's can't be filled.
+bool UseUsersApplicationFolder();
