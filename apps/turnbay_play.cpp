@@ -4,6 +4,7 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
+#include <filesystem>
 #include <string>
 #include <string_view>
 #include <unistd.h>
@@ -169,6 +170,10 @@ int main(int argc, char** argv) {
     return parsed.exitStatus;
   }
   const PlayOptions& options = *parsed.options;
+  if (!options.tools.empty() && !std::filesystem::is_directory(options.tools)) {
+    SayTrouble("The tool folder \"" + options.tools + "\" can't be found.");
+    return kFileTrouble;
+  }
   StartUp(options);
   if (!LoadProgram(options.program)) return kFileTrouble;
   const std::string source = frmMain::TextEditor().Text();

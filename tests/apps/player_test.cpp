@@ -39,6 +39,7 @@ TEST_F(PlayerTest, WrongUsageAndUnreadableFilesEndWithTwoAndAReason) {
       {{"long.cnc"}, "32767 characters"},
       {{"rows.cnc"}, "32768 lines"},
       {{"--report", "no/such/r.json", "good.cnc"}, "no/such/r.json"},
+      {{"--tools", "no/tools", "good.cnc"}, "\"no/tools\""},
       {{"--picture", ".", "good.cnc"}, "can't be written"}};
   for (const auto& [arguments, reason] : cases) {
     EXPECT_EQ(2, Run(arguments)) << reason;
