@@ -13,8 +13,8 @@ namespace {
 constexpr const char* kCopied[] = {"tools", "samples"};
 constexpr const char* kLinked[] = {"sound", "help"};
 
-// Null until UseUsersApplicationFolder.
-QString usersFolder;
+// Empty until somebody asks: every sound and every tool is looked for here.
+QString applicationFolder;
 
 bool InBuildTree() {
   return QDir(QCoreApplication::applicationDirPath()).exists("tools");
@@ -66,10 +66,11 @@ bool UseUsersApplicationFolder() {
   const QString users =
       QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + "/turnbay";
   if (!FillApplicationFolder(ProgramsFolder(), users)) return false;
-  usersFolder = users;
+  applicationFolder = users;
   return true;
 }
 
 std::string ApplicationFolder() {
-  return (usersFolder.isNull() ? ProgramsFolder() : usersFolder).toStdString();
+  if (applicationFolder.isEmpty()) applicationFolder = ProgramsFolder();
+  return applicationFolder.toStdString();
 }

@@ -92,7 +92,8 @@ class QtRichText : public QTextEdit, public RichText {
   void Type(const QString& characters);
   void TypeByte(std::int16_t character);
 
-  // Rebuilt from the document when somebody asks for it.
+  // Rebuilt from the document when somebody asks for it. Whoever watches changes asks at each, so
+  // that an undo of colours alone can be told from one of text.
   mutable std::string text_;
   mutable bool textIsCurrent_ = true;
   // What the selection begins with, and what is typed next.
