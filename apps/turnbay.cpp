@@ -4,8 +4,8 @@
 #include "editor/documents.h"
 #include "interpreter/machine.h"
 #include "mainwindow/frm_main.h"
-#include "platform/desktop.h"
-#include "platform/qt/application_folder.h"
+#include "platform/host/desktop.h"
+#include "platform/qt/host/application_folder.h"
 
 namespace {
 

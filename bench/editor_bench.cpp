@@ -10,10 +10,10 @@
 #include "editor/colouring.h"
 #include "editor/editor_events.h"
 #include "mainwindow/control_surface.h"
-#include "platform/desktop.h"
 #include "platform/grid_table.h"
-#include "platform/qt/grid_view.h"
-#include "platform/qt/qt_rich_text.h"
+#include "platform/host/desktop.h"
+#include "platform/qt/views/grid_view.h"
+#include "platform/qt/views/qt_rich_text.h"
 #include "settings/settings.h"
 
 namespace {

@@ -18,8 +18,8 @@
 #include "mainwindow/frm_main.h"
 #include "motion/player.h"
 #include "motion/stock.h"
-#include "platform/desktop.h"
-#include "platform/settings_store.h"
+#include "platform/host/desktop.h"
+#include "platform/host/settings_store.h"
 #include "settings/settings.h"
 
 namespace {

@@ -14,7 +14,7 @@
 #include "motion/player.h"
 #include "motion/stock.h"
 #include "motion/tool.h"
-#include "platform/files.h"
+#include "platform/host/files.h"
 #include "toollib/tool_folder.h"
 
 namespace frmMain {

@@ -5,7 +5,7 @@
 #include <string>
 
 #include "mainwindow/control_surface.h"
-#include "platform/desktop.h"
+#include "platform/host/desktop.h"
 #include "platform/numbers.h"
 #include "platform/text.h"
 #include "settings/settings.h"

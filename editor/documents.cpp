@@ -12,7 +12,7 @@
 #include "interpreter/machine.h"
 #include "mainwindow/control_surface.h"
 #include "mainwindow/view_toggles.h"
-#include "platform/desktop.h"
+#include "platform/host/desktop.h"
 
 namespace frmMain {
 

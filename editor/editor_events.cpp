@@ -6,7 +6,7 @@
 
 #include "interpreter/machine.h"
 #include "mainwindow/control_surface.h"
-#include "platform/desktop.h"
+#include "platform/host/desktop.h"
 #include "settings/settings.h"
 
 namespace frmMain {

@@ -7,7 +7,7 @@
 #include "editor/colouring.h"
 #include "mainwindow/control_surface.h"
 #include "platform/code_page.h"
-#include "platform/files.h"
+#include "platform/host/files.h"
 #include "platform/numbers.h"
 #include "platform/text.h"
 

@@ -3,8 +3,8 @@
 #include <cstddef>
 
 #include "mainwindow/control_surface.h"
+#include "platform/host/settings_store.h"
 #include "platform/numbers.h"
-#include "platform/settings_store.h"
 #include "settings/settings.h"
 
 namespace frmMain {

@@ -10,7 +10,7 @@
 
 #include "mainwindow/view_toggles.h"
 #include "platform/code_page.h"
-#include "platform/desktop.h"
+#include "platform/host/desktop.h"
 #include "platform/numbers.h"
 #include "platform/text.h"
 

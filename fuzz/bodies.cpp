@@ -12,7 +12,7 @@
 #include "mainwindow/layout.h"
 #include "motion/tool.h"
 #include "platform/code_page.h"
-#include "platform/settings_store.h"
+#include "platform/host/settings_store.h"
 #include "platform/text.h"
 #include "settings/settings.h"
 #include "tests/fakes/machine_test.h"

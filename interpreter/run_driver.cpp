@@ -12,7 +12,7 @@
 #include "mainwindow/control_surface.h"
 #include "motion/stock.h"
 #include "motion/tool.h"
-#include "platform/desktop.h"
+#include "platform/host/desktop.h"
 #include "platform/numbers.h"
 #include "platform/text.h"
 

@@ -7,9 +7,9 @@
 
 #include "interpreter/machine.h"
 #include "motion/tool.h"
-#include "platform/desktop.h"
+#include "platform/host/desktop.h"
+#include "platform/host/pictures.h"
 #include "platform/numbers.h"
-#include "platform/pictures.h"
 #include "toollib/tool_files.h"
 #include "toollib/tool_folder.h"
 

@@ -5,8 +5,8 @@
 #include <string_view>
 
 #include "platform/controls.h"
-#include "platform/dialogs.h"
 #include "platform/grid_table.h"
+#include "platform/host/dialogs.h"
 #include "platform/rich_text.h"
 
 // The main window's controls. They are the only store of much of the program's state: a run's

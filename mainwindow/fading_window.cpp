@@ -3,7 +3,7 @@
 #include <QKeyEvent>
 #include <QPainterPath>
 
-#include "platform/qt/dialog_owner.h"
+#include "platform/qt/host/dialog_owner.h"
 
 namespace {
 

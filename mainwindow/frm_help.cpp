@@ -9,8 +9,8 @@
 #include <QToolBar>
 #include <QVBoxLayout>
 
-#include "platform/desktop.h"
-#include "platform/files.h"
+#include "platform/host/desktop.h"
+#include "platform/host/files.h"
 
 namespace {
 

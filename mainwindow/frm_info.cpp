@@ -5,7 +5,7 @@
 #include "editor/documents.h"
 #include "interpreter/machine.h"
 #include "mainwindow/fading_window.h"
-#include "platform/notifications.h"
+#include "platform/host/notifications.h"
 
 namespace {
 

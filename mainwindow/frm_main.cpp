@@ -24,10 +24,10 @@
 #include "mainwindow/layout.h"
 #include "mainwindow/start_up.h"
 #include "motion/stock.h"
-#include "platform/qt/grid_view.h"
-#include "platform/qt/key_codes.h"
-#include "platform/qt/qt_rich_text.h"
-#include "platform/qt/surface_view.h"
+#include "platform/qt/views/grid_view.h"
+#include "platform/qt/views/key_codes.h"
+#include "platform/qt/views/qt_rich_text.h"
+#include "platform/qt/views/surface_view.h"
 
 namespace frmMain {
 

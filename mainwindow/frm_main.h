@@ -3,7 +3,7 @@
 #include <QMainWindow>
 
 #include "platform/controls.h"
-#include "platform/qt/bindings.h"
+#include "platform/qt/views/bindings.h"
 
 class GridView;
 class QtRichText;

@@ -3,7 +3,7 @@
 #include <QMainWindow>
 #include <functional>
 
-#include "platform/qt/bindings.h"
+#include "platform/qt/views/bindings.h"
 
 class QMenu;
 

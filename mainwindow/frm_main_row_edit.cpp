@@ -7,7 +7,7 @@
 #include "debugger/row_edit.h"
 #include "mainwindow/control_surface.h"
 #include "platform/code_page.h"
-#include "platform/qt/key_codes.h"
+#include "platform/qt/views/key_codes.h"
 
 namespace frmMain {
 

@@ -2,7 +2,7 @@
 
 #include <QLineEdit>
 
-#include "platform/qt/bindings.h"
+#include "platform/qt/views/bindings.h"
 
 namespace frmMain {
 

@@ -2,7 +2,7 @@
 
 #include <QWidget>
 
-#include "platform/qt/bindings.h"
+#include "platform/qt/views/bindings.h"
 
 namespace frmMain {
 

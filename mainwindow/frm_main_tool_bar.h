@@ -4,7 +4,7 @@
 #include <QToolBar>
 #include <string>
 
-#include "platform/qt/bindings.h"
+#include "platform/qt/views/bindings.h"
 
 class QMenu;
 

@@ -10,7 +10,7 @@
 #include <cmath>
 
 #include "platform/code_page.h"
-#include "platform/qt/document_text.h"
+#include "platform/qt/views/document_text.h"
 
 namespace {
 

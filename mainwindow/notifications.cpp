@@ -1,6 +1,6 @@
 #include "mainwindow/notifications.h"
 
-#include "platform/notifications.h"
+#include "platform/host/notifications.h"
 
 namespace frmInfo {
 

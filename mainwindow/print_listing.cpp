@@ -7,9 +7,9 @@
 #include "debugger/row_edit.h"
 #include "mainwindow/control_surface.h"
 #include "mainwindow/listing.h"
-#include "platform/desktop.h"
-#include "platform/files.h"
-#include "platform/qt/dialog_owner.h"
+#include "platform/host/desktop.h"
+#include "platform/host/files.h"
+#include "platform/qt/host/dialog_owner.h"
 #include "settings/settings.h"
 
 namespace frmMain {

@@ -8,10 +8,10 @@
 #include "editor/recent_files.h"
 #include "mainwindow/control_surface.h"
 #include "mainwindow/view_toggles.h"
-#include "platform/files.h"
-#include "platform/notifications.h"
+#include "platform/host/files.h"
+#include "platform/host/notifications.h"
+#include "platform/host/settings_store.h"
 #include "platform/numbers.h"
-#include "platform/settings_store.h"
 #include "settings/settings.h"
 
 namespace frmMain {

@@ -10,8 +10,8 @@
 #include "interpreter/machine.h"
 #include "mainwindow/control_surface.h"
 #include "mainwindow/layout.h"
-#include "platform/desktop.h"
-#include "platform/settings_store.h"
+#include "platform/host/desktop.h"
+#include "platform/host/settings_store.h"
 #include "settings/settings.h"
 
 namespace frmMain {

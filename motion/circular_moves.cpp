@@ -5,7 +5,7 @@
 #include "interpreter/machine.h"
 #include "motion/moves.h"
 #include "motion/player.h"
-#include "platform/desktop.h"
+#include "platform/host/desktop.h"
 
 namespace GCodes {
 

@@ -6,8 +6,8 @@
 #include "interpreter/machine.h"
 #include "mainwindow/control_surface.h"
 #include "motion/stock.h"
-#include "platform/desktop.h"
-#include "platform/files.h"
+#include "platform/host/desktop.h"
+#include "platform/host/files.h"
 #include "platform/numbers.h"
 
 namespace GCodes {

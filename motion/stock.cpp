@@ -8,7 +8,7 @@
 #include "interpreter/machine.h"
 #include "mainwindow/control_surface.h"
 #include "motion/tool.h"
-#include "platform/desktop.h"
+#include "platform/host/desktop.h"
 #include "platform/numbers.h"
 #include "settings/settings.h"
 

@@ -1,8 +1,8 @@
 #include "motion/tool.h"
 
 #include "motion/stock.h"
-#include "platform/desktop.h"
-#include "platform/pictures.h"
+#include "platform/host/desktop.h"
+#include "platform/host/pictures.h"
 #include "settings/settings.h"
 
 namespace Graphics {

@@ -6,8 +6,8 @@
 
 #include "debugger/row_edit.h"
 #include "mainwindow/control_surface.h"
-#include "platform/qt/dialog_owner.h"
-#include "platform/qt/picture_strip.h"
+#include "platform/qt/host/dialog_owner.h"
+#include "platform/qt/views/picture_strip.h"
 #include "settings/frm_options_debug.h"
 #include "settings/frm_options_editor.h"
 #include "settings/frm_options_simulation.h"

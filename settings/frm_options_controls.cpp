@@ -5,7 +5,7 @@
 
 #include "mainwindow/control_surface.h"
 #include "platform/numbers.h"
-#include "platform/qt/colours.h"
+#include "platform/qt/views/colours.h"
 
 namespace frmOptions {
 

@@ -5,7 +5,7 @@
 #include <algorithm>
 
 #include "platform/numbers.h"
-#include "platform/qt/grid_borders.h"
+#include "platform/qt/views/grid_borders.h"
 #include "settings/frm_options_controls.h"
 
 namespace frmOptions {

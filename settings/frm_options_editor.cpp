@@ -5,7 +5,7 @@
 #include <QVBoxLayout>
 #include <cstddef>
 
-#include "platform/qt/qt_rich_text.h"
+#include "platform/qt/views/qt_rich_text.h"
 #include "settings/frm_options_controls.h"
 
 namespace frmOptions {

@@ -6,7 +6,7 @@
 #include <QVBoxLayout>
 #include <cstddef>
 
-#include "platform/qt/colours.h"
+#include "platform/qt/views/colours.h"
 #include "settings/frm_options_controls.h"
 
 namespace frmOptions {

@@ -8,8 +8,8 @@
 #include "mainwindow/control_surface.h"
 #include "mainwindow/start_up.h"
 #include "motion/stock.h"
+#include "platform/host/settings_store.h"
 #include "platform/numbers.h"
-#include "platform/settings_store.h"
 
 namespace GlobalVariables {
 

@@ -3,8 +3,8 @@
 #include <optional>
 #include <type_traits>
 
+#include "platform/host/settings_store.h"
 #include "platform/numbers.h"
-#include "platform/settings_store.h"
 #include "platform/text.h"
 
 namespace GlobalVariables {

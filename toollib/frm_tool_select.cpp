@@ -13,12 +13,12 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
-#include "platform/desktop.h"
-#include "platform/pictures.h"
-#include "platform/qt/colours.h"
-#include "platform/qt/dialog_owner.h"
-#include "platform/qt/paths.h"
-#include "platform/qt/picture_strip.h"
+#include "platform/host/desktop.h"
+#include "platform/host/pictures.h"
+#include "platform/qt/host/dialog_owner.h"
+#include "platform/qt/host/paths.h"
+#include "platform/qt/views/colours.h"
+#include "platform/qt/views/picture_strip.h"
 #include "settings/settings.h"
 #include "toollib/tool_files.h"
 #include "toollib/tool_folder.h"
@@ -81,7 +81,7 @@ QPushButton* MakeButton(const char* name, const QString& caption) {
 
 QStringList BitmapNames() {
   QStringList names;
-  const QDir folder(ResolvePath(GlobalVariables::ToolFolder()));
+  const QDir folder(QString::fromStdString(ResolvePath(GlobalVariables::ToolFolder())));
   for (const QString& name :
        folder.entryList({"*.bmp"}, QDir::Files, QDir::Name | QDir::IgnoreCase)) {
     if (GlobalVariables::IsBareBitmapName(name.toStdString())) names += name;

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "platform/code_page.h"
-#include "platform/files.h"
+#include "platform/host/files.h"
 #include "platform/numbers.h"
 #include "platform/text.h"
 #include "toollib/tool_folder.h"

@@ -1,6 +1,6 @@
 #include "toollib/tool_folder.h"
 
-#include "platform/files.h"
+#include "platform/host/files.h"
 
 namespace GlobalVariables {
 

@@ -8,8 +8,8 @@
 #include <chrono>
 
 #include "editor/documents.h"
-#include "platform/desktop.h"
-#include "platform/qt/key_codes.h"
+#include "platform/host/desktop.h"
+#include "platform/qt/views/key_codes.h"
 
 namespace {
 

@@ -1,10 +1,10 @@
-#include "platform/desktop.h"
+#include "platform/host/desktop.h"
 
 #include <cstdio>
 #include <unistd.h>
 #include <utility>
 
-#include "platform/notifications.h"
+#include "platform/host/notifications.h"
 #include "platform/windowless/windowless.h"
 
 namespace {

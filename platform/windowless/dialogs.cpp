@@ -1,4 +1,4 @@
-#include "platform/dialogs.h"
+#include "platform/host/dialogs.h"
 
 // Nobody is there to choose: every dialog is cancelled.
 

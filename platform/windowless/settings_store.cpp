@@ -1,4 +1,4 @@
-#include "platform/settings_store.h"
+#include "platform/host/settings_store.h"
 
 #include <map>
 #include <tuple>

@@ -3,7 +3,7 @@
 #include "editor/editor_events.h"
 #include "editor/recent_files.h"
 #include "mainwindow/view_toggles.h"
-#include "platform/settings_store.h"
+#include "platform/host/settings_store.h"
 #include "tests/fakes/machine_test.h"
 
 namespace {

@@ -4,11 +4,11 @@
 #include <optional>
 #include <stdexcept>
 
-#include "platform/dialogs.h"
-#include "platform/files.h"
-#include "platform/notifications.h"
-#include "platform/pictures.h"
-#include "platform/settings_store.h"
+#include "platform/host/dialogs.h"
+#include "platform/host/files.h"
+#include "platform/host/notifications.h"
+#include "platform/host/pictures.h"
+#include "platform/host/settings_store.h"
 #include "platform/text.h"
 
 namespace {

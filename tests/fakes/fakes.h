@@ -7,7 +7,7 @@
 #include <utility>
 #include <vector>
 
-#include "platform/desktop.h"
+#include "platform/host/desktop.h"
 #include "platform/raster.h"
 
 struct FakeMessage {

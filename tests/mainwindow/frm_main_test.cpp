@@ -24,7 +24,7 @@
 #include "interpreter/machine.h"
 #include "mainwindow/control_surface.h"
 #include "mainwindow/program_start.h"
-#include "platform/settings_store.h"
+#include "platform/host/settings_store.h"
 #include "settings/settings.h"
 
 namespace {

@@ -10,7 +10,7 @@
 #include "mainwindow/frm_splash.h"
 #include "mainwindow/listing.h"
 #include "mainwindow/notifications.h"
-#include "platform/desktop.h"
+#include "platform/host/desktop.h"
 
 namespace {
 

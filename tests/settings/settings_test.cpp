@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/settings_store.h"
+#include "platform/host/settings_store.h"
 #include "settings/options.h"
 #include "tests/fakes/fakes.h"
 

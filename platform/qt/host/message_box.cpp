@@ -1,0 +1,59 @@
+#include <QMessageBox>
+
+#include "platform/host/desktop.h"
+#include "platform/qt/host/dialog_owner.h"
+
+namespace {
+
+constexpr const char* kProgramTitle = "Orvane's Turnbay";
+
+struct IconStyle {
+  int style;
+  QMessageBox::Icon icon;
+};
+constexpr IconStyle kIcons[] = {
+    {Desktop::kCritical, QMessageBox::Critical},
+    {Desktop::kQuestion, QMessageBox::Question},
+    {Desktop::kInformation, QMessageBox::Information},
+};
+constexpr int kIconBits = 0xF0;
+
+struct ButtonAnswer {
+  QMessageBox::StandardButton button;
+  int answer;
+};
+constexpr ButtonAnswer kYesNoCancelButtons[] = {
+    {QMessageBox::Yes, Desktop::kYes},
+    {QMessageBox::No, Desktop::kNo},
+    {QMessageBox::Cancel, Desktop::kCancel},
+};
+
+}  // namespace
+
+namespace Desktop {
+
+int MessageBox(const std::string& text, int style, const std::string& title) {
+  QMessageBox box(DialogOwner());
+  box.setWindowTitle(QString::fromStdString(title.empty() ? kProgramTitle : title));
+  // Texts come from programs and files: nothing in them is markup.
+  box.setTextFormat(Qt::PlainText);
+  box.setText(QString::fromStdString(text));
+  for (const IconStyle& entry : kIcons) {
+    if ((style & kIconBits) == entry.style) box.setIcon(entry.icon);
+  }
+  const bool isQuestion = (style & kYesNoCancel) == kYesNoCancel;
+  if (!isQuestion) {
+    box.setStandardButtons(QMessageBox::Ok);
+    box.exec();
+    return kOk;
+  }
+  box.setStandardButtons(QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
+  box.setDefaultButton(QMessageBox::Yes);
+  const int chosen = box.exec();
+  for (const ButtonAnswer& entry : kYesNoCancelButtons) {
+    if (chosen == entry.button) return entry.answer;
+  }
+  return kCancel;
+}
+
+}  // namespace Desktop

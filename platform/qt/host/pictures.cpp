@@ -1,0 +1,66 @@
+#include "platform/host/pictures.h"
+
+#include <QBuffer>
+#include <QImage>
+#include <QImageReader>
+
+#include "platform/host/files.h"
+#include "platform/qt/host/paths.h"
+
+namespace {
+
+std::string Reason(const QString& path, const QString& why) {
+  return QString("The picture \"%1\" can't be read: %2.").arg(path, why).toStdString();
+}
+
+// A height below 0 stands for rows from the top down.
+bool IsTooLarge(const QSize& size) {
+  const auto isTooLong = [](qint64 side) {
+    return side > kMaxPictureSide || -side > kMaxPictureSide;
+  };
+  return isTooLong(size.width()) || isTooLong(size.height());
+}
+
+Raster ToRaster(const QImage& image) {
+  Raster raster(image.width(), image.height());
+  for (int y = 0; y < image.height(); ++y) {
+    for (int x = 0; x < image.width(); ++x) {
+      const QRgb pixel = image.pixel(x, y);
+      raster.SetPixel(
+          x, y,
+          Rgb(static_cast<std::uint32_t>(qRed(pixel)), static_cast<std::uint32_t>(qGreen(pixel)),
+              static_cast<std::uint32_t>(qBlue(pixel))));
+    }
+  }
+  return raster;
+}
+
+}  // namespace
+
+std::optional<Raster> LoadPicture(const std::string& path, std::string& reason) {
+  const auto bytes = ReadFile(path, reason);
+  if (!bytes) return std::nullopt;
+  const QString resolved = QString::fromStdString(ResolvePath(path));
+  // One byte more than there is: whoever reads that far misses some.
+  QByteArray padded = QByteArray::fromStdString(*bytes) + '\0';
+  QBuffer buffer(&padded);
+  QImageReader reader(&buffer);
+  const bool isBitmap = reader.format() == "bmp";
+  // Asked before decoding as well, so that a header can't claim a giant picture into memory.
+  const bool isTooLarge = IsTooLarge(reader.size());
+  const QImage image = isTooLarge ? QImage() : reader.read();
+  if (isTooLarge || IsTooLarge(image.size())) {
+    reason = Reason(resolved, QString("it is larger than %1 pixels").arg(kMaxPictureSide));
+    return std::nullopt;
+  }
+  if (image.isNull()) {
+    reason = Reason(resolved, reader.errorString());
+    return std::nullopt;
+  }
+  // The other formats notice it themselves.
+  if (isBitmap && buffer.pos() == padded.size()) {
+    reason = Reason(resolved, "its end is missing");
+    return std::nullopt;
+  }
+  return ToRaster(image);
+}

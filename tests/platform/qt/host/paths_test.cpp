@@ -1,0 +1,45 @@
+#include "platform/qt/host/paths.h"
+
+#include <gmock/gmock.h>
+
+#include "platform/host/files.h"
+#include "tests/platform/qt/temporary_folder.h"
+
+namespace {
+
+using PathsTest = TemporaryFolderTest;
+
+// With backslashes, as in files of ours, without regard to case. The user's own "Part.cnc" and
+// "part.cnc" are two files: one is never opened, and so never saved over, for the other.
+TEST_F(PathsTest, FindsOnlyPathsWithBackslashesWithoutRegardToCase) {
+  std::filesystem::create_directories(folder / "Tools/deep");
+  for (const char* name : {"Tools/T.bmp", "Tools/deep/a.ini", "Tools/deep/A.ini", "a\\b.cnc"}) {
+    Put(name, "");
+  }
+  constexpr const char* kCases[][2] = {
+      {"\\tools\\t.BMP", "/Tools/T.bmp"},
+      {"\\TOOLS\\deep\\A.ini", "/Tools/deep/A.ini"},
+      {"\\tools\\DEEP\\..\\t.bmp", "/Tools/deep/../T.bmp"},
+      // What isn't there keeps the name that was asked for.
+      {"\\other\\New.ini", "/other/New.ini"},
+      {"/Tools/t.BMP", "/Tools/t.BMP"},
+      {"/a\\b.cnc", "/a\\b.cnc"},
+  };
+  for (const auto& [asked, found] : kCases) {
+    EXPECT_EQ(folder.string() + found, ResolvePath(folder.string() + asked));
+  }
+}
+
+TEST_F(PathsTest, ReadsAllBytesOrSaysWhyNot) {
+  const std::string bytes("\0\xFF\r\n", 4);
+  std::string reason;
+  EXPECT_EQ(bytes, ReadFile(Put("file", bytes), reason));
+  EXPECT_FALSE(ReadFile(Path("gone.cnc"), reason));
+  EXPECT_THAT(reason, testing::HasSubstr("gone.cnc\" can't be read: No such file or directory."));
+  // A device without an end, behind a link.
+  std::filesystem::create_symlink("/dev/zero", Path("endless"));
+  EXPECT_FALSE(ReadFile(Path("endless"), reason));
+  EXPECT_THAT(reason, testing::HasSubstr("endless\" can't be read: it has more than 67108864"));
+}
+
+}  // namespace

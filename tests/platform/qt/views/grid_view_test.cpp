@@ -1,0 +1,115 @@
+#include "platform/qt/views/grid_view.h"
+
+#include <QHeaderView>
+#include <QImage>
+#include <QScrollBar>
+#include <QTemporaryDir>
+#include <QTest>
+#include <gtest/gtest.h>
+#include <string>
+
+#include "platform/numbers.h"
+
+namespace {
+
+constexpr QRgb kRed = 0xFFFF0000;
+constexpr QRgb kEmptyArea = 0xFF4466A6;
+
+class GridViewTest : public testing::Test {
+ protected:
+  GridViewTest() {
+    table.SetColWidth(0, 450);
+    table.SetColWidth(1, 300);
+    table.SetColWidth(2, 3000);
+    table.SetColWidth(3, 0);
+    Fill(100);
+    view.Click = [this] { Note("click"); };
+    view.DblClick = [this] { Note("double"); };
+    view.resize(200, 190);
+    view.show();
+    EXPECT_TRUE(QTest::qWaitForWindowExposed(&view));
+  }
+  QString MarkFolder() {
+    QImage mark(19, 18, QImage::Format_RGB32);
+    mark.fill(kRed);
+    mark.save(pictures.filePath("Break.png"));
+    return pictures.path();
+  }
+  void Fill(int rows) {
+    table.SetRedraw(false);
+    table.SetRows(rows);
+    for (int row = 0; row < rows; ++row) table.SetRowHeight(row, 285);
+    table.SetRedraw(true);
+  }
+  // "click 3 1, " for row 3, column 1.
+  void Note(const std::string& what) {
+    heard += what + ' ' + DecimalText(table.MouseRow) + ' ' + DecimalText(table.MouseCol) + ", ";
+  }
+  void ClickCell(int x, int y) { QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, {x, y}); }
+  // Of the cells, in pixels of the grid.
+  QRgb Pixel(int x, int y) {
+    return view.grab().toImage().convertToFormat(QImage::Format_RGB32).pixel(x, y);
+  }
+
+  QTemporaryDir pictures;
+  GridTable table;
+  GridView view{table, MarkFolder()};
+  std::string heard;
+};
+
+TEST_F(GridViewTest, ClicksTellTheCellUnderThePointer) {
+  ClickCell(10, 3 * 19 + 5);
+  ClickCell(100, 5);
+  QTest::mouseClick(view.viewport(), Qt::RightButton, {}, {100, 5});
+  QTest::mouseClick(view.verticalHeader()->viewport(), Qt::LeftButton, {}, {5, 2 * 19 + 5});
+  EXPECT_EQ("click 3 1, click 0 2, click 2 0, ", heard);
+  table.TopRow = 40;
+  Fill(45);
+  heard.clear();
+  ClickCell(100, 5);
+  QTest::mouseDClick(view.viewport(), Qt::LeftButton, {}, {100, 5});
+  const std::string top = DecimalText(table.TopRow);
+  EXPECT_GT(table.TopRow, 30);
+  Fill(2);
+  ClickCell(100, 100);
+  EXPECT_EQ("click " + top + " 2, double " + top + " 2, click -1 2, ", heard);
+}
+
+TEST_F(GridViewTest, TopRowAndTheScrollBarFollowEachOther) {
+  table.TopRow = 30;
+  EXPECT_EQ(30, view.rowAt(1));
+  view.verticalScrollBar()->setValue(12);
+  EXPECT_EQ(12, table.TopRow);
+  table.TopRow = 99;
+  EXPECT_EQ(table.TopRow, view.rowAt(1)) << "what is out of reach counts as the last place";
+  EXPECT_LT(table.TopRow, 99);
+  view.hide();
+  table.TopRow = 50;
+  Fill(80);
+  EXPECT_EQ(50, table.TopRow);
+  view.show();
+  EXPECT_EQ(50, view.rowAt(1)) << "a hidden grid catches up";
+  table.SetTextMatrix(3, 2, "M30");
+  table.SetColWidth(2, 3500);
+  EXPECT_EQ(50, table.TopRow);
+}
+
+TEST_F(GridViewTest, CellsShowTheirFormats) {
+  table.Select(1, 1);
+  table.SetCellPicture(GridPicture::Break);
+  table.SetCellPictureAlignment(4);
+  table.Select(2, 2);
+  table.SetCellBackColor(Rgb(1, 2, 3));
+  const int numbers = 30;
+  EXPECT_EQ(kRed, Pixel(numbers + 10, 19 + 9));
+  EXPECT_NE(kRed, Pixel(numbers + 10, 9));
+  EXPECT_EQ(0xFF010203, Pixel(numbers + 20 + 50, 2 * 19 + 1));
+  EXPECT_EQ(0xFFC0C0C0, Pixel(numbers + 20 + 50, 2 * 19 + 18));
+  table.SetGridLines(0);
+  EXPECT_EQ(0xFF010203, Pixel(numbers + 20 + 50, 2 * 19 + 18));
+  Fill(3);
+  EXPECT_EQ(kEmptyArea, Pixel(numbers + 100, 3 * 19 + 10));
+  EXPECT_EQ(kEmptyArea, Pixel(5, 3 * 19 + 10)) << "also under the line numbers";
+}
+
+}  // namespace

@@ -1,0 +1,172 @@
+#include "platform/qt/views/qt_rich_text.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QInputMethodEvent>
+#include <QMimeData>
+#include <QTest>
+#include <QTextDocument>
+#include <QUrl>
+
+#include "editor/colouring.h"
+#include "editor/editor_events.h"
+#include "mainwindow/control_surface.h"
+#include "platform/host/desktop.h"
+#include "settings/settings.h"
+#include "tests/platform/rich_text_contract.h"
+
+namespace {
+
+using GlobalVariables::Settings;
+
+INSTANTIATE_TEST_SUITE_P(Qt, RichTextContract,
+                         testing::Values(RichTextBody{
+                             "qt", [] { return std::make_unique<QtRichText>(); }}));
+
+constexpr Colour kLetters = Rgb(0, 0, 200);
+constexpr Colour kNumbers = Rgb(200, 0, 0);
+
+std::string Shown(const FormattedText& formatted) {
+  std::string classes;
+  for (const TextFormat& format : FormatOfEachByte(formatted)) {
+    classes += format.color == kLetters ? 'l' : format.color == kNumbers ? 'n' : '.';
+  }
+  return classes;
+}
+
+// The editor in a window of its own, with the program's handlers bound to it.
+class QtEditorTest : public testing::Test {
+ protected:
+  QtEditorTest() {
+    frmMain::ResetControlSurface();
+    Settings = {};
+    Settings.EditorCharacterColor = kLetters;
+    Settings.EditorIntegerColor = kNumbers;
+    editor.Keys = {frmMain::TextEditor_KeyDown, frmMain::TextEditor_KeyPress,
+                   frmMain::TextEditor_KeyUp};
+    frmMain::SetTextEditor(&editor);
+    editor.show();
+    editor.activateWindow();
+    editor.setFocus();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&editor));
+  }
+  ~QtEditorTest() override {
+    frmMain::SetTextEditor(nullptr);
+    frmMain::ResetControlSurface();
+  }
+  void TypeKeys(const char* keys) { QTest::keyClicks(&editor, keys); }
+  void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+    QTest::keyClick(&editor, key, modifiers);
+  }
+  void Paste(const QString& text) {
+    QApplication::clipboard()->setText(text);
+    Press(Qt::Key_V, Qt::ControlModifier);
+  }
+
+  QtRichText editor;
+};
+
+TEST_F(QtEditorTest, TypedLettersAreRaisedAndColouredByTheirKeys) {
+  TypeKeys("g01 x20.5");
+  Press(Qt::Key_Return);
+  Press(Qt::Key_Return, Qt::ShiftModifier);
+  QTest::keyClick(&editor, Qt::Key_7, Qt::KeypadModifier);
+  EXPECT_EQ("G01 X20.5\r\n\r\n7", editor.Text());
+  EXPECT_EQ("lnnllnnnnnnnnn", Shown(editor.TextRTF()))
+      << "keys without a colour of their own, Enter among them, take the last one";
+  EXPECT_TRUE(frmMain::Toolbar.Buttons("Save").Enabled);
+}
+
+TEST_F(QtEditorTest, ABracketOffersNothingWhenTheUserWantsNone) {
+  Settings.AutoComplete = 0;
+  TypeKeys("[");
+  Press(Qt::Key_Return);
+  EXPECT_EQ("[\r\n", editor.Text());
+}
+
+TEST_F(QtEditorTest, SelectionCountsALineEndAsTwo) {
+  editor.SetText("G00\r\nX20\r\n\r\nZ5");
+  Press(Qt::Key_End);
+  Press(Qt::Key_Right, Qt::ShiftModifier);
+  EXPECT_EQ(3u, editor.SelStart());
+  EXPECT_EQ("\r\n", editor.SelText());
+  editor.SetSelStart(12);
+  TypeKeys("W");
+  EXPECT_EQ("G00\r\nX20\r\n\r\nWZ5", editor.Text());
+  Select(editor, 4, 2);
+  EXPECT_EQ(3u, editor.SelStart()) << "no offset stands between CR and LF";
+  Select(editor, 0, 4);
+  EXPECT_EQ("G00\r\n", editor.SelText());
+}
+
+TEST_F(QtEditorTest, UndoGoesBackWordByWordAndNeverIntoAColouring) {
+  TypeKeys("G01 X20");
+  FormattedText coloured = editor.TextRTF();
+  for (FormatRun& run : coloured.runs) run.format.bold = true;
+  editor.SetTextRTF(coloured);
+  EXPECT_EQ(coloured, editor.TextRTF());
+  editor.SetSelStart(7);
+  TypeKeys(" Z5");
+  editor.undo();
+  EXPECT_EQ(coloured, editor.TextRTF());
+  editor.undo();
+  EXPECT_EQ("G01", editor.Text());
+  EXPECT_EQ("lnn", Shown(editor.TextRTF()));
+  EXPECT_FALSE(editor.TextRTF().runs.front().format.bold);
+  editor.redo();
+  EXPECT_EQ(coloured, editor.TextRTF());
+  editor.SetTextRTF({"M30", {{0, {}}}});
+  editor.undo();
+  EXPECT_EQ("M30", editor.Text()) << "a text put in by the program is no edit";
+}
+
+TEST_F(QtEditorTest, EachUserEditIsHeardOnce) {
+  // The text at each change.
+  std::string heard;
+  editor.WatchChange([&] { heard += editor.Text() + '|'; });
+  TypeKeys("G");
+  Press(Qt::Key_Backspace);
+  Paste("G00\nZ5");
+  Press(Qt::Key_A, Qt::ControlModifier);
+  TypeKeys("M");
+  editor.undo();
+  // Colours the number that it passes, which is no change of the text, nor is taking it back.
+  editor.SetSelStart(1);
+  Press(Qt::Key_Right, Qt::ShiftModifier);
+  Press(Qt::Key_Right, Qt::ShiftModifier);
+  Press(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ("G||G00\r\nZ5|M|G00\r\nZ5|", heard);
+}
+
+TEST_F(QtEditorTest, CharactersBeyondTheCodePageAreRefused) {
+  Paste(QString::fromUtf8("\u20AC \u00E4\u2013\u00A0"));
+  EXPECT_EQ("\x80 \xE4\x96\xA0", editor.Text());
+  QTest::sendKeyEvent(QTest::Click, &editor, Qt::Key_unknown, QString::fromUtf8("\u0416"),
+                      Qt::NoModifier);
+  Paste(QString::fromUtf8("G01\u2192"));
+  Paste(QString::fromUtf8("\U0001F600"));
+  QInputMethodEvent composed;
+  composed.setCommitString(QString::fromUtf8("\u0416"));
+  QApplication::sendEvent(&editor, &composed);
+  EXPECT_EQ("\x80 \xE4\x96\xA0", editor.Text());
+  composed.setCommitString(QString::fromUtf8("\u00FCz"));
+  QApplication::sendEvent(&editor, &composed);
+  EXPECT_EQ("\x80 \xE4\x96\xA0\xFCZ", editor.Text());
+}
+
+TEST_F(QtEditorTest, ALockedEditorIsReadAndCopiedOnly) {
+  editor.SetText("G00");
+  editor.Locked = true;
+  TypeKeys("X");
+  Press(Qt::Key_Return);
+  Press(Qt::Key_Delete);
+  Paste("M30");
+  EXPECT_EQ("G00", editor.Text());
+  Press(Qt::Key_Right, Qt::ShiftModifier);
+  EXPECT_EQ("G", editor.SelText());
+  editor.Locked = false;
+  TypeKeys("M");
+  EXPECT_EQ("M00", editor.Text());
+}
+
+}  // namespace
