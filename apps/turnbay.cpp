@@ -1,8 +1,8 @@
 #include <QApplication>
 #include <QIcon>
 
-#include "editor/documents.h"
 #include "interpreter/machine.h"
+#include "mainwindow/control_surface.h"
 #include "mainwindow/frm_main.h"
 #include "platform/host/desktop.h"
 #include "platform/qt/host/application_folder.h"

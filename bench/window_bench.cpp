@@ -12,7 +12,6 @@
 #include <thread>
 
 #include "debugger/run_commands.h"
-#include "editor/editor_events.h"
 #include "interpreter/machine.h"
 #include "mainwindow/control_surface.h"
 #include "mainwindow/frm_main.h"

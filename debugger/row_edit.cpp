@@ -6,8 +6,6 @@
 #include <string_view>
 
 #include "debugger/debug_grid.h"
-#include "debugger/run_commands.h"
-#include "editor/editor_events.h"
 #include "interpreter/machine.h"
 #include "mainwindow/control_surface.h"
 #include "platform/text.h"

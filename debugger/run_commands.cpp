@@ -2,8 +2,6 @@
 
 #include "debugger/debug_grid.h"
 #include "debugger/row_edit.h"
-#include "editor/documents.h"
-#include "editor/editor_events.h"
 #include "editor/reformat.h"
 #include "editor/syntax_check.h"
 #include "interpreter/machine.h"
@@ -18,8 +16,6 @@
 #include "toollib/tool_folder.h"
 
 namespace frmMain {
-
-std::int16_t SaveWasEnabled = kFalse;
 
 namespace {
 
@@ -145,7 +141,6 @@ void mnuRunRunToBreakpoint_Click() {
 }
 
 void ResetRunCommands() {
-  SaveWasEnabled = kFalse;
   runActive = false;
 }
 

@@ -31,10 +31,6 @@ void mnuRunStepInto_Click();
 // flag.
 void mnuRunRunToBreakpoint_Click();
 
-// Flag: the state of the "Save" command at Start, given back at Stop. An edit of a row during the
-// run sets it.
-extern std::int16_t SaveWasEnabled;
-
 void ResetRunCommands();
 
 }  // namespace frmMain

@@ -6,7 +6,6 @@
 #include "debugger/debug_grid.h"
 #include "debugger/row_edit.h"
 #include "editor/colouring.h"
-#include "editor/editor_events.h"
 #include "editor/program_file.h"
 #include "editor/recent_files.h"
 #include "interpreter/machine.h"
@@ -15,8 +14,6 @@
 #include "platform/host/desktop.h"
 
 namespace frmMain {
-
-std::int16_t WindowClosed = kFalse;
 
 namespace {
 
@@ -178,7 +175,6 @@ void Form_Unload() {
 }
 
 void ResetDocuments() {
-  WindowClosed = kFalse;
   DocumentIsUtf8 = false;
   documentPath.clear();
 }

@@ -15,10 +15,6 @@ inline constexpr const char* kUntitled = "Untitled";
 inline constexpr std::int16_t kClosedByUser = 0;
 inline constexpr std::int16_t kClosedByProgram = 1;
 
-// Flag: the window has closed, and the process ends as soon as the handlers that run, and a run
-// with them, have returned. Written by Form_Unload.
-extern std::int16_t WindowClosed;
-
 // New, Open, a recent file and closing ask first whether changes are to be saved; Cancel, or a save
 // that didn't happen, ends them.
 void mnuFileNew_Click();

@@ -13,8 +13,6 @@ namespace frmMain {
 
 using GlobalVariables::Settings;
 
-std::int16_t TextChanged = kFalse;
-
 namespace {
 
 // Virtual keys.

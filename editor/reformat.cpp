@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "debugger/row_edit.h"
-#include "debugger/run_commands.h"
 #include "editor/colouring.h"
 #include "interpreter/machine.h"
 #include "mainwindow/control_surface.h"

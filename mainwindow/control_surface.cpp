@@ -3,7 +3,7 @@
 #include <initializer_list>
 #include <string>
 
-#include "editor/editor_events.h"
+#include "interpreter/machine.h"
 #include "platform/memory_rich_text.h"
 #include "platform/text.h"
 
@@ -81,19 +81,17 @@ Property<std::string_view> ActiveControl;
 GridTable DebugWindow = HiddenGrid();
 TextBox txtDebug;
 Property<ControlBounds> TextEditorBounds;
+std::int16_t SaveWasEnabled = kFalse;
+std::int16_t TextChanged = kFalse;
+std::int16_t WindowClosed = kFalse;
 
 namespace {
 
 MemoryRichText textBuffer;
 
-MemoryRichText MakeEditor() {
-  MemoryRichText editor;
-  editor.WatchChange(TextEditor_Change);
-  return editor;
-}
-
-MemoryRichText memoryEditor = MakeEditor();
+MemoryRichText memoryEditor;
 RichText* textEditor = &memoryEditor;
+void (*textEditorHandler)() = nullptr;
 
 struct CommandMenu {
   std::string_view key;
@@ -112,6 +110,11 @@ RichText& TextEditor() {
   return *textEditor;
 }
 
+void WatchTextEditor(void (*handler)()) {
+  textEditorHandler = handler;
+  textEditor->WatchChange(handler);
+}
+
 RichText& TextBuffer() {
   return textBuffer;
 }
@@ -127,7 +130,7 @@ void SetTextEditor(RichText* body) {
   next.Visible = former.Visible.Get();
   next.BackColor = former.BackColor.Get();
   next.Font.Name = former.Font.Name.Get();
-  next.WatchChange(TextEditor_Change);
+  next.WatchChange(textEditorHandler);
   textEditor = &next;
 }
 
@@ -170,8 +173,12 @@ void ResetControlSurface() {
   txtDebug = {};
   TextEditorBounds = ControlBounds{};
   textBuffer = {};
-  memoryEditor = MakeEditor();
+  memoryEditor = {};
   textEditor = &memoryEditor;
+  textEditorHandler = nullptr;
+  SaveWasEnabled = kFalse;
+  TextChanged = kFalse;
+  WindowClosed = kFalse;
   GlobalVariables::SimWidth = 0;
   GlobalVariables::SimHeight = 0;
 }

@@ -100,8 +100,10 @@ extern GridTable DebugWindow;
 // Lies over the row that is edited in place.
 extern TextBox txtDebug;
 
-// Holds the program text. Every change of it calls TextEditor_Change.
+// Holds the program text.
 RichText& TextEditor();
+// Calls `handler` at every change of the editor's text, whichever body it has. One at a time.
+void WatchTextEditor(void (*handler)());
 // Its place; the grid shares it.
 extern Property<ControlBounds> TextEditorBounds;
 
@@ -109,16 +111,30 @@ extern Property<ControlBounds> TextEditorBounds;
 RichText& TextBuffer();
 
 // Makes `body` the text editor, or the one in memory when it is null. What the former body held
-// goes along, without a call of TextEditor_Change. A body must be taken out before it is destroyed.
+// goes along, unheard by the one who watches its text. A body must be taken out before it is
+// destroyed.
 void SetTextEditor(RichText* body);
 
 // Opens or closes the commands named in a list divided by commas, without blanks: each button
 // first, then the menu entry that follows it. A name that is no command is passed over.
 void EnableCommands(std::string_view names, bool enable);
 
+// Flag: the state of the "Save" command at Start, given back at Stop. An edit of a row during the
+// run sets it.
+extern std::int16_t SaveWasEnabled;
+
+// Flag: the rows of the grid may be behind the editor's text. Set by every change of the text,
+// cleared by whoever has brought the two together.
+extern std::int16_t TextChanged;
+
+// Flag: the window has closed, and the process ends as soon as the handlers that run, and a run
+// with them, have returned. Written by Form_Unload.
+extern std::int16_t WindowClosed;
+
 // True when the buttons say so: "Pause" closed and "Stop" open. There is no other sign of it.
 bool IsRunPaused();
 
+// Nobody watches the editor's text afterwards.
 void ResetControlSurface();
 
 }  // namespace frmMain

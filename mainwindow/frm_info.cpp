@@ -2,8 +2,8 @@
 #include <QPointer>
 #include <QScreen>
 
-#include "editor/documents.h"
 #include "interpreter/machine.h"
+#include "mainwindow/control_surface.h"
 #include "mainwindow/fading_window.h"
 #include "platform/host/notifications.h"
 

@@ -11,6 +11,7 @@
 #include "motion/pattern_cycle.h"
 #include "motion/player.h"
 #include "motion/stock.h"
+#include "motion/tool.h"
 #include "settings/settings.h"
 #include "toollib/tool_files.h"
 
@@ -21,9 +22,10 @@ void ResetToProgramStart() {
   ResetRunCommands();
   ResetRowEdit();
   ResetLayout();
-  TextChanged = kFalse;
+  WatchTextEditor(TextEditor_Change);
   ResetDocuments();
   ModCNC::ResetMachine();
+  Graphics::ResetTool();
   Graphics::ResetStock();
   GCodes::ResetPlayer();
   GCodes::ResetPatternCycle();

@@ -4,10 +4,13 @@
 #include <string_view>
 
 #include "debugger/debug_grid.h"
+#include "editor/colouring.h"
 #include "editor/documents.h"
+#include "editor/editor_events.h"
 #include "editor/recent_files.h"
 #include "mainwindow/control_surface.h"
 #include "mainwindow/view_toggles.h"
+#include "motion/stock.h"
 #include "platform/host/files.h"
 #include "platform/host/notifications.h"
 #include "platform/host/settings_store.h"
@@ -58,6 +61,7 @@ void ApplyViewOptions() {
 }  // namespace
 
 void Form_Load() {
+  WatchTextEditor(TextEditor_Change);
   GlobalVariables::LoadSettings();
   ApplySettings();
   BuildRecentFilesMenu();
@@ -86,6 +90,21 @@ void ApplySettings() {
   mnuToolBarShowLabels.Checked = !StoredMark("Toolbar", "ShowLabels", true);
   mnuToolBarShowLabels_Click();
   ApplyViewOptions();
+}
+
+void ApplyOptions() {
+  const bool saveWasEnabled = Toolbar.Buttons("Save").Enabled;
+  TextBuffer().SetText(TextEditor().Text());
+  ColourText();
+  // Without a text the colouring has nothing to bring the font to.
+  if (TextEditor().Text().empty()) ApplyEditorFont();
+  EnableCommands("Save", saveWasEnabled);
+  Graphics::CreateSurface();
+  picSim.BackColor = GlobalVariables::Settings.SimBackColor;
+  // The old picture goes from the screen even when the colour stays.
+  if (picSim.Cls) picSim.Cls();
+  ApplyDebugWindowLayout();
+  ApplyDebugWindowFormats();
 }
 
 }  // namespace frmMain

@@ -11,6 +11,10 @@ void Form_Load();
 // Yields.
 void ApplySettings();
 
+// The same for settings that the user has changed: the simulation area loses its picture, and the
+// document is as modified as it was. No run may be active.
+void ApplyOptions();
+
 // Face, size and weight to the editor; a text that stands in it keeps size and weight, unless it is
 // selected.
 void ApplyEditorFont();

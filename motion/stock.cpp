@@ -20,7 +20,6 @@ using GlobalVariables::SimHeight;
 using GlobalVariables::SimWidth;
 
 std::vector<ProfileColumn> StockProfile;
-StockSurface StockDC;
 std::int16_t CentreLine = 0;
 std::int16_t TaperCut = 0;
 
@@ -137,11 +136,6 @@ void ApplyEffect() {
 void ResetStock() {
   toolZ.reset();
   StockProfile.clear();
-  FreeToolDCs();
-  ToolWidth = 0;
-  ToolHeight = 0;
-  LastToolX = 0;
-  LastToolY = 0;
   StockDC = {};
   CentreLine = 0;
   TaperCut = 0;

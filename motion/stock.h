@@ -22,8 +22,6 @@ struct ProfileColumn {
 // BilletZ + 1 columns; column i stands for Z = -i. Made anew by InitStock, outlives the run.
 extern std::vector<ProfileColumn> StockProfile;
 
-// The surface, SimWidth by SimHeight pixels, billet at the left edge.
-extern StockSurface StockDC;
 // Pixel row of the spindle axis.
 extern std::int16_t CentreLine;
 

@@ -77,3 +77,9 @@ PixelRect StockSurface::TakeChanged() {
   changed_ = {};
   return changed.IsEmpty() ? PixelRect{} : changed;
 }
+
+namespace Graphics {
+
+StockSurface StockDC;
+
+}  // namespace Graphics

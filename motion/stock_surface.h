@@ -56,3 +56,10 @@ class StockSurface {
   PixelPoint lastMirror_;
   bool spritePending_ = false;
 };
+
+namespace Graphics {
+
+// SimWidth by SimHeight pixels, billet at the left edge.
+extern StockSurface StockDC;
+
+}  // namespace Graphics

@@ -1,6 +1,5 @@
 #include "motion/tool.h"
 
-#include "motion/stock.h"
 #include "platform/host/desktop.h"
 #include "platform/host/pictures.h"
 #include "settings/settings.h"
@@ -36,6 +35,14 @@ void LoadTool(const Raster& picture, std::int16_t width, std::int16_t height) {
 void FreeToolDCs() {
   StockDC.Forget();
   ToolDC = {};
+}
+
+void ResetTool() {
+  FreeToolDCs();
+  ToolWidth = 0;
+  ToolHeight = 0;
+  LastToolX = 0;
+  LastToolY = 0;
 }
 
 }  // namespace Graphics

@@ -35,4 +35,6 @@ void LoadTool(const Raster& picture, std::int16_t width, std::int16_t height);
 // Lets go of the loaded tool's pictures.
 void FreeToolDCs();
 
+void ResetTool();
+
 }  // namespace Graphics

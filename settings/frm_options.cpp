@@ -6,6 +6,7 @@
 
 #include "debugger/row_edit.h"
 #include "mainwindow/control_surface.h"
+#include "mainwindow/start_up.h"
 #include "platform/qt/host/dialog_owner.h"
 #include "platform/qt/views/picture_strip.h"
 #include "settings/frm_options_debug.h"

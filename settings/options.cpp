@@ -3,11 +3,6 @@
 #include <string>
 #include <type_traits>
 
-#include "debugger/debug_grid.h"
-#include "editor/colouring.h"
-#include "mainwindow/control_surface.h"
-#include "mainwindow/start_up.h"
-#include "motion/stock.h"
 #include "platform/host/settings_store.h"
 #include "platform/numbers.h"
 
@@ -48,22 +43,3 @@ void SaveOptions(const SettingsRecord& options) {
 }
 
 }  // namespace GlobalVariables
-
-namespace frmMain {
-
-void ApplyOptions() {
-  const bool saveWasEnabled = Toolbar.Buttons("Save").Enabled;
-  TextBuffer().SetText(TextEditor().Text());
-  ColourText();
-  // Without a text the colouring has nothing to bring the font to.
-  if (TextEditor().Text().empty()) ApplyEditorFont();
-  EnableCommands("Save", saveWasEnabled);
-  Graphics::CreateSurface();
-  picSim.BackColor = GlobalVariables::Settings.SimBackColor;
-  // The old picture goes from the screen even when the colour stays.
-  if (picSim.Cls) picSim.Cls();
-  ApplyDebugWindowLayout();
-  ApplyDebugWindowFormats();
-}
-
-}  // namespace frmMain

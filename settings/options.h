@@ -9,11 +9,3 @@ namespace GlobalVariables {
 void SaveOptions(const SettingsRecord& options);
 
 }  // namespace GlobalVariables
-
-namespace frmMain {
-
-// Brings Settings to the editor, the grid and the simulation area, whose picture is lost. The
-// document is as modified as it was. No run may be active.
-void ApplyOptions();
-
-}  // namespace frmMain

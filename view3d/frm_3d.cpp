@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <chrono>
 
-#include "editor/documents.h"
+#include "mainwindow/control_surface.h"
 #include "platform/host/desktop.h"
 #include "platform/qt/views/key_codes.h"
 

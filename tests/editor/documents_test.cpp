@@ -1,6 +1,5 @@
 #include "editor/documents.h"
 
-#include "editor/editor_events.h"
 #include "editor/recent_files.h"
 #include "mainwindow/view_toggles.h"
 #include "platform/host/settings_store.h"

@@ -7,7 +7,6 @@
 
 #include "debugger/debug_grid.h"
 #include "debugger/row_edit.h"
-#include "editor/editor_events.h"
 #include "mainwindow/view_toggles.h"
 #include "settings/settings.h"
 #include "tests/fakes/machine_test.h"

@@ -6,7 +6,6 @@
 
 #include "debugger/debug_grid.h"
 #include "debugger/run_commands.h"
-#include "editor/editor_events.h"
 #include "interpreter/machine.h"
 #include "mainwindow/control_surface.h"
 #include "mainwindow/layout.h"

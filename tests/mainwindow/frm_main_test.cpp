@@ -20,7 +20,6 @@
 #include <QWindow>
 #include <gtest/gtest.h>
 
-#include "editor/documents.h"
 #include "interpreter/machine.h"
 #include "mainwindow/control_surface.h"
 #include "mainwindow/program_start.h"

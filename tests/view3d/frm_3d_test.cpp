@@ -9,7 +9,7 @@
 #include <cmath>
 #include <gtest/gtest.h>
 
-#include "editor/documents.h"
+#include "mainwindow/control_surface.h"
 #include "motion/stock.h"
 #include "settings/settings.h"
 
