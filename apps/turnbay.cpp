@@ -1,11 +1,13 @@
 #include <QApplication>
 #include <QIcon>
+#include <QTimer>
 
 #include "interpreter/machine.h"
 #include "mainwindow/control_surface.h"
 #include "mainwindow/frm_main.h"
 #include "platform/host/desktop.h"
 #include "platform/qt/host/application_folder.h"
+#include "platform/qt/host/settings_trouble.h"
 
 namespace {
 
@@ -33,6 +35,13 @@ int main(int argc, char** argv) {
         "and no change of the tool list can be saved. Make room, and start again.",
         Desktop::kCritical, "Error!");
   }
+  // Later, since a setting may be written in the midst of a command.
+  WatchSettingsTrouble([](const std::string& reason) {
+    QTimer::singleShot(0, qApp, [reason] {
+      Desktop::MessageBox(reason + " Your settings hold until Turnbay ends.", Desktop::kCritical,
+                          "Error!");
+    });
+  });
   frmMain::Window window;
   window.Load();
   if (frmMain::WindowClosed != kFalse) return 0;
