@@ -1,12 +1,11 @@
 #include <cerrno>
-#include <fcntl.h>
 #include <filesystem>
 #include <sys/stat.h>
 #include <sys/wait.h>
-#include <system_error>
-#include <unistd.h>
 
 #include "platform/host/files.h"
+#include "platform/posix/descriptor.h"
+#include "platform/posix/error_words.h"
 #include "platform/qt/host/paths.h"
 
 // The new bytes go to a file without a name, which vanishes with the process. Once they are on the
@@ -20,29 +19,6 @@ namespace fs = std::filesystem;
 constexpr int kMaxLinks = 40;
 // Leaves room for what makes the name of the temporary file out of it.
 constexpr std::size_t kMaxNameInTemporary = 200;
-
-std::string Words(int error) {
-  return std::generic_category().message(error);
-}
-
-class Descriptor {
- public:
-  Descriptor() = default;
-  Descriptor(const Descriptor&) = delete;
-  Descriptor& operator=(const Descriptor&) = delete;
-  ~Descriptor() {
-    if (number_ >= 0) close(number_);
-  }
-
-  bool Open(const fs::path& path, int flags, mode_t mode) {
-    number_ = open(path.c_str(), flags | O_WRONLY | O_CLOEXEC, mode);
-    return number_ >= 0;
-  }
-  int Number() const { return number_; }
-
- private:
-  int number_ = -1;
-};
 
 // Where a chain of links ends, whether there is a file or not; empty when it goes round.
 fs::path FollowLinks(fs::path path) {
@@ -71,12 +47,13 @@ struct Replacement {
 bool OpenTemporary(Replacement& replacement, mode_t mode) {
   const fs::path folder = replacement.path.parent_path();
   if (access("/proc/self/fd", X_OK) == 0 &&
-      replacement.file.Open(folder.empty() ? "." : folder, O_TMPFILE, mode)) {
+      replacement.file.Open(folder.empty() ? "." : folder.string(), O_WRONLY | O_TMPFILE, mode)) {
     return true;
   }
   // Some network and memory stick file systems know no files without a name.
   unlink(replacement.temporary.c_str());
-  replacement.hasName = replacement.file.Open(replacement.temporary, O_CREAT | O_EXCL, mode);
+  replacement.hasName =
+      replacement.file.Open(replacement.temporary, O_WRONLY | O_CREAT | O_EXCL, mode);
   return replacement.hasName;
 }
 
@@ -130,16 +107,16 @@ int Publish(const Replacement& replacement) {
 
 // Empty on success, else why not.
 std::string Replace(const fs::path& path, std::string_view bytes) {
-  if (path.empty()) return Words(ELOOP);
+  if (path.empty()) return ErrorWords(ELOOP);
   struct stat old {};
   const bool exists = stat(path.c_str(), &old) == 0;
   if (exists && S_ISDIR(old.st_mode)) return "it is a folder";
   if (exists && !S_ISREG(old.st_mode)) return "it is no ordinary file";
   // A rename asks the folder alone, but a file that is write protected has to stay.
-  if (exists && faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) != 0) return Words(errno);
+  if (exists && faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) != 0) return ErrorWords(errno);
 
   Replacement replacement{.path = path};
-  if (!OpenTemporary(replacement, exists ? old.st_mode & 0777 : 0666)) return Words(errno);
+  if (!OpenTemporary(replacement, exists ? old.st_mode & 0777 : 0666)) return ErrorWords(errno);
   const int file = replacement.file.Number();
   if (exists) {
     // Best effort: the owner is somebody else only when root saves.
@@ -149,7 +126,7 @@ std::string Replace(const fs::path& path, std::string_view bytes) {
   int error = WriteToDisk(file, bytes);
   if (error != 0 && replacement.hasName) unlink(replacement.temporary.c_str());
   if (error == 0) error = Publish(replacement);
-  return error == 0 ? "" : Words(error);
+  return error == 0 ? "" : ErrorWords(error);
 }
 
 }  // namespace

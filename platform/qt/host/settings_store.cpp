@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "platform/host/files.h"
+#include "platform/posix/error_words.h"
 #include "platform/posix/folder_lock.h"
 #include "platform/qt/host/settings_trouble.h"
 #include "platform/settings_text.h"
@@ -58,7 +59,8 @@ bool WriteStore(const std::string& application, std::string& reason) {
   std::error_code error;
   std::filesystem::create_directories(StoreFolder(), error);
   if (error) {
-    reason = "The folder \"" + StoreFolder() + "\" can't be made: " + error.message() + '.';
+    reason =
+        "The folder \"" + StoreFolder() + "\" can't be made: " + ErrorWords(error.value()) + '.';
     return false;
   }
   const FolderLock lock(StoreFolder());

@@ -1,6 +1,7 @@
 #include "platform/qt/host/paths.h"
 
 #include <gmock/gmock.h>
+#include <sys/stat.h>
 
 #include "platform/host/files.h"
 #include "tests/platform/qt/temporary_folder.h"
@@ -36,10 +37,18 @@ TEST_F(PathsTest, ReadsAllBytesOrSaysWhyNot) {
   EXPECT_EQ(bytes, ReadFile(Put("file", bytes), reason));
   EXPECT_FALSE(ReadFile(Path("gone.cnc"), reason));
   EXPECT_THAT(reason, testing::HasSubstr("gone.cnc\" can't be read: No such file or directory."));
-  // A device without an end, behind a link.
+  EXPECT_FALSE(ReadFile(folder, reason));
+  EXPECT_THAT(reason, testing::HasSubstr("can't be read: it is a folder."));
+  std::ofstream(folder / "large").seekp(kMaxFileSize) << 'x';
+  EXPECT_FALSE(ReadFile(Path("large"), reason));
+  EXPECT_THAT(reason, testing::HasSubstr("large\" can't be read: it has more than 67108864"));
+  // A device without an end, behind a link, and a pipe that nobody writes.
   std::filesystem::create_symlink("/dev/zero", Path("endless"));
-  EXPECT_FALSE(ReadFile(Path("endless"), reason));
-  EXPECT_THAT(reason, testing::HasSubstr("endless\" can't be read: it has more than 67108864"));
+  mkfifo(Path("pipe").c_str(), 0600);
+  for (const char* name : {"endless", "pipe"}) {
+    EXPECT_FALSE(ReadFile(Path(name), reason));
+    EXPECT_THAT(reason, testing::HasSubstr("\" can't be read: it is no ordinary file."));
+  }
 }
 
 }  // namespace

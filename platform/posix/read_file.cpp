@@ -1,0 +1,44 @@
+#include <cerrno>
+#include <sys/stat.h>
+
+#include "platform/host/files.h"
+#include "platform/posix/descriptor.h"
+#include "platform/posix/error_words.h"
+#include "platform/qt/host/paths.h"
+
+namespace {
+
+// Empty on success, else why not.
+std::string Read(const std::string& path, std::string& bytes) {
+  // Bytes read at a time.
+  constexpr std::size_t kPartSize = 65'536;
+  Descriptor file;
+  // A pipe without a writer would keep the program waiting in open.
+  if (!file.Open(path, O_RDONLY | O_NONBLOCK)) return ErrorWords(errno);
+  struct stat status {};
+  if (fstat(file.Number(), &status) != 0) return ErrorWords(errno);
+  if (S_ISDIR(status.st_mode)) return "it is a folder";
+  if (!S_ISREG(status.st_mode)) return "it is no ordinary file";
+  // Not as large as the file claims to be: it may be growing, and some have no size at all.
+  for (;;) {
+    const std::size_t size = bytes.size();
+    if (size > kMaxFileSize) return "it has more than " + std::to_string(kMaxFileSize) + " bytes";
+    bytes.resize(size + kPartSize);
+    const ssize_t count = read(file.Number(), bytes.data() + size, kPartSize);
+    const int error = errno;
+    bytes.resize(size + static_cast<std::size_t>(count > 0 ? count : 0));
+    if (count == 0) return {};
+    if (count < 0 && error != EINTR) return ErrorWords(error);
+  }
+}
+
+}  // namespace
+
+std::optional<std::string> ReadFile(const std::string& path, std::string& reason) {
+  const std::string resolved = ResolvePath(path);
+  std::string bytes;
+  const std::string why = Read(resolved, bytes);
+  if (why.empty()) return bytes;
+  reason = "The file \"" + resolved + "\" can't be read: " + why + '.';
+  return std::nullopt;
+}
