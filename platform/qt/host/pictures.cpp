@@ -44,8 +44,12 @@ std::optional<Raster> LoadPicture(const std::string& path, std::string& reason) 
   // One byte more than there is: whoever reads that far misses some.
   QByteArray padded = QByteArray::fromStdString(*bytes) + '\0';
   QBuffer buffer(&padded);
-  QImageReader reader(&buffer);
-  const bool isBitmap = reader.format() == "bmp";
+  QImageReader reader(&buffer, "bmp");
+  reader.setAutoDetectImageFormat(false);
+  if (!reader.canRead()) {
+    reason = Reason(resolved, "it is no bitmap");
+    return std::nullopt;
+  }
   // Asked before decoding as well, so that a header can't claim a giant picture into memory.
   const bool isTooLarge = IsTooLarge(reader.size());
   const QImage image = isTooLarge ? QImage() : reader.read();
@@ -57,8 +61,7 @@ std::optional<Raster> LoadPicture(const std::string& path, std::string& reason) 
     reason = Reason(resolved, reader.errorString());
     return std::nullopt;
   }
-  // The other formats notice it themselves.
-  if (isBitmap && buffer.pos() == padded.size()) {
+  if (buffer.pos() == padded.size()) {
     reason = Reason(resolved, "its end is missing");
     return std::nullopt;
   }

@@ -1,5 +1,6 @@
 #include "platform/host/pictures.h"
 
+#include <QImage>
 #include <gmock/gmock.h>
 
 #include "tests/platform/qt/temporary_folder.h"
@@ -32,6 +33,27 @@ TEST_F(PicturesTest, ReadsColoursOfBothRowOrders) {
     EXPECT_EQ(Rgb(255, 0, 0), picture->GetPixel(0, red));
     EXPECT_EQ(Rgb(0, 255, 0), picture->GetPixel(1, red));
     EXPECT_EQ(kTransparent, picture->GetPixel(1, 1 - red));
+  }
+}
+
+// Whatever its name says.
+TEST_F(PicturesTest, ReadsBitmapsOfEveryDepthAndNoOtherFormat) {
+  QImage image(2, 1, QImage::Format_RGB32);
+  image.setPixel(0, 0, qRgb(255, 255, 255));
+  image.setPixel(1, 0, qRgb(0, 0, 0));
+  std::string reason;
+  for (const auto depth : {QImage::Format_Mono, QImage::Format_Indexed8, QImage::Format_RGB16,
+                           QImage::Format_RGB888, QImage::Format_ARGB32}) {
+    ASSERT_TRUE(image.convertToFormat(depth).save(QString::fromStdString(Path("tool.png")), "BMP"));
+    const auto picture = LoadPicture(Path("tool.png"), reason);
+    ASSERT_TRUE(picture) << reason;
+    EXPECT_EQ(Rgb(255, 255, 255), picture->GetPixel(0, 0));
+    EXPECT_EQ(Rgb(0, 0, 0), picture->GetPixel(1, 0));
+  }
+  for (const char* format : {"PNG", "XPM", "PPM"}) {
+    ASSERT_TRUE(image.save(QString::fromStdString(Path("tool.bmp")), format));
+    EXPECT_FALSE(LoadPicture(Path("tool.bmp"), reason)) << format;
+    EXPECT_THAT(reason, testing::HasSubstr("tool.bmp\" can't be read: it is no bitmap."));
   }
 }
 
