@@ -19,6 +19,7 @@
 #include "editor/source_place.h"
 #include "editor/syntax_check.h"
 #include "interpreter/machine.h"
+#include "interpreter/run_driver.h"
 #include "mainwindow/control_surface.h"
 #include "mainwindow/layout.h"
 #include "mainwindow/start_up.h"
@@ -129,7 +130,7 @@ void SayPlace(const PlayOptions& options, std::string_view source, std::size_t o
 
 // Where the billet line stands, or should stand.
 std::size_t BilletOffset() {
-  const std::ptrdiff_t found = frmMain::TextEditor().Find("[BILLET");
+  const std::ptrdiff_t found = frmMain::TextEditor().Find(ModCNC::kBilletMark);
   return found < 0 ? 0 : static_cast<std::size_t>(found);
 }
 

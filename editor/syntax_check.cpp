@@ -1,13 +1,13 @@
 #include "editor/syntax_check.h"
 
 #include <algorithm>
-#include <array>
 #include <cstddef>
-#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
 
+#include "interpreter/g_functions.h"
+#include "interpreter/words.h"
 #include "mainwindow/view_toggles.h"
 #include "platform/code_page.h"
 #include "platform/host/desktop.h"
@@ -18,9 +18,7 @@ namespace frmMain {
 
 namespace {
 
-constexpr std::string_view kAllowedCharacters = "FGIKMNPQRSTUWXZ0123456789.-+";
-constexpr std::array<std::int16_t, 15> kGNumbers = {0,  1,  2,  3,  4,  21, 28, 70,
-                                                    71, 72, 73, 90, 94, 97, 98};
+constexpr std::string_view kNumberCharacters = "0123456789.-+";
 
 enum class FaultKind { invalidCharacter, missingLetter, badNumber, badGCode };
 
@@ -31,13 +29,13 @@ struct Fault {
   std::size_t length = 0;
 };
 
-bool IsAllowed(char c) {
-  return kAllowedCharacters.find(ToUpper(c)) != std::string_view::npos;
+template <class Table, class Value>
+bool Contains(const Table& table, const Value& value) {
+  return std::ranges::find(table, value) != std::ranges::end(table);
 }
 
-bool IsGNumber(std::string_view number) {
-  const auto value = ParseInt16(number);
-  return value && std::find(kGNumbers.begin(), kGNumbers.end(), *value) != kGNumbers.end();
+bool IsAllowed(char c) {
+  return Contains(ModCNC::kWordLetters, ToUpper(c)) || Contains(kNumberCharacters, c);
 }
 
 // Judges a word that stands at `start` of the text and isn't empty.
@@ -51,7 +49,9 @@ std::optional<Fault> FaultOfWord(std::string_view word, std::size_t start) {
   if (letter < 'A' || letter > 'Z') return Fault{FaultKind::missingLetter, start, 1};
   const std::string_view number = word.substr(1);
   if (!IsNumeric(number)) return Fault{FaultKind::badNumber, start + 1, number.size()};
-  if (letter == 'G' && !IsGNumber(number)) return Fault{FaultKind::badGCode, start, word.size()};
+  if (letter == 'G' && !Contains(ModCNC::kCheckedGNumbers, ParseInt16(number))) {
+    return Fault{FaultKind::badGCode, start, word.size()};
+  }
   return std::nullopt;
 }
 

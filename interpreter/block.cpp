@@ -1,20 +1,19 @@
+#include <algorithm>
 #include <cstdint>
+#include <iterator>
 #include <optional>
 
 #include "interpreter/decoder.h"
+#include "interpreter/g_functions.h"
 #include "interpreter/machine.h"
+#include "interpreter/words.h"
 #include "mainwindow/control_surface.h"
-#include "motion/cycles.h"
-#include "motion/moves.h"
-#include "motion/pattern_cycle.h"
 #include "platform/numbers.h"
 #include "platform/text.h"
 
 namespace ModCNC {
 
 namespace {
-
-enum class Scale { Plain, TimesTen, Diameter };
 
 std::optional<std::int16_t> WordValue(std::string_view digits, Scale scale) {
   const auto number = ParseNumber(digits);
@@ -30,40 +29,7 @@ std::optional<std::int16_t> WordValue(std::string_view digits, Scale scale) {
   return std::nullopt;
 }
 
-void ShowFeedRate() {
-  frmMain::StatusBar.Panels("FeedRate").Text = "Feed: " + DecimalText(FeedRate);
-}
-void MarkRadiusGiven() {
-  RadiusGiven = kTrue;
-}
-
-struct WordRule {
-  char letter;
-  Scale scale;
-  std::int16_t* value;
-  // For incremental words: the target becomes position plus value.
-  std::int16_t* target = nullptr;
-  const std::int16_t* position = nullptr;
-  void (*afterwards)() = nullptr;
-};
-
-// N and S have no rule: a sequence number means nothing to the machine, and S is read by the
-// pre-scan alone.
-constexpr WordRule kWordRules[] = {
-    {'F', Scale::Plain, &FeedRate, nullptr, nullptr, ShowFeedRate},
-    {'I', Scale::TimesTen, &WordI},
-    {'K', Scale::TimesTen, &WordK},
-    {'P', Scale::TimesTen, &WordP},
-    {'Q', Scale::TimesTen, &WordQ},
-    {'R', Scale::TimesTen, &WordR, nullptr, nullptr, MarkRadiusGiven},
-    {'T', Scale::Plain, &ToolNumber},
-    {'U', Scale::Diameter, &WordU, &TargetX, &CurrentX},
-    {'W', Scale::TimesTen, &WordW, &TargetZ, &CurrentZ},
-    {'X', Scale::Diameter, &TargetX},
-    {'Z', Scale::TimesTen, &TargetZ},
-};
-
-void ApplyRule(const WordRule& rule, std::string_view digits) {
+void StoreValue(const WordRule& rule, std::string_view digits) {
   const auto value = WordValue(digits, rule.scale);
   if (!value) return;
   if (rule.target != nullptr) {
@@ -73,6 +39,14 @@ void ApplyRule(const WordRule& rule, std::string_view digits) {
   }
   *rule.value = *value;
   if (rule.afterwards != nullptr) rule.afterwards();
+}
+
+void ApplyRule(const WordRule& rule, std::string_view word) {
+  if (rule.decode != nullptr) {
+    rule.decode(word);
+    return;
+  }
+  if (rule.value != nullptr) StoreValue(rule, word.substr(1));
 }
 
 // Calls `act` for each part between blanks, empty parts included, without building a list.
@@ -100,18 +74,28 @@ void PreScan(std::string_view text) {
   });
 }
 
-struct MotionRule {
-  std::int16_t function;
-  void (*executor)();
-};
+constexpr std::int16_t kNoFunction = -1;
 
-constexpr MotionRule kMotionRules[] = {
-    {0, GCodes::ExecuteG00},  {1, GCodes::ExecuteG01},  {2, GCodes::ExecuteG02},
-    {3, GCodes::ExecuteG03},  {28, GCodes::ExecuteG28}, {73, GCodes::ExecuteG73},
-    {90, GCodes::ExecuteG90}, {94, GCodes::ExecuteG94},
-};
+const GFunction* FindGFunction(std::optional<std::int16_t> number) {
+  const auto* found = std::ranges::find(kGFunctions, number, &GFunction::number);
+  return found == std::end(kGFunctions) ? nullptr : found;
+}
 
 }  // namespace
+
+void ShowFeedRate() {
+  frmMain::StatusBar.Panels("FeedRate").Text = "Feed: " + DecimalText(FeedRate);
+}
+void MarkRadiusGiven() {
+  RadiusGiven = kTrue;
+}
+
+bool ExecuteRow(std::string_view row) {
+  const std::size_t comment = row.find('[');
+  if (comment == 0) return false;
+  ExecuteBlock(row.substr(0, comment));
+  return true;
+}
 
 void ExecuteBlock(std::string_view text) {
   PreScan(text);
@@ -121,31 +105,24 @@ void ExecuteBlock(std::string_view text) {
 
 void DecodeWord(std::string_view word) {
   if (word.empty()) return;
-  switch (word.front()) {
-    case 'G':
-      DecodeGWord(word);
-      return;
-    case 'M':
-      DecodeMWord(word);
-      return;
-    default:
-      break;
+  const auto* rule = std::ranges::find(kWordRules, word.front(), &WordRule::letter);
+  if (rule != std::end(kWordRules)) ApplyRule(*rule, word);
+}
+
+void DecodeGWord(std::string_view word) {
+  const std::string_view digits = word.substr(1);
+  if (!IsNumeric(digits)) return;
+  const GFunction* function = FindGFunction(ParseInt16(digits));
+  if (function != nullptr && function->unit != nullptr) {
+    frmMain::StatusBar.Panels("Dim").Text = function->unit;
+    return;
   }
-  for (const WordRule& rule : kWordRules) {
-    if (rule.letter == word.front()) {
-      ApplyRule(rule, word.substr(1));
-      return;
-    }
-  }
+  ActiveG = function != nullptr && function->isModal ? function->number : kNoFunction;
 }
 
 void DispatchMotion() {
-  for (const MotionRule& rule : kMotionRules) {
-    if (rule.function == ActiveG) {
-      rule.executor();
-      return;
-    }
-  }
+  const GFunction* function = FindGFunction(ActiveG);
+  if (function != nullptr && function->executor != nullptr) function->executor();
 }
 
 }  // namespace ModCNC

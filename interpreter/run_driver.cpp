@@ -23,7 +23,6 @@ using frmMain::DebugWindow;
 
 namespace {
 
-constexpr std::string_view kBilletMark = "[BILLET";
 // Gap between the waiting tool and the right edge of the simulation area, in pixels.
 constexpr int kStartMargin = 20;
 
@@ -72,10 +71,8 @@ std::string RowText(std::int16_t row) {
   return DebugWindow.TextMatrix(row, frmMain::kTextColumn);
 }
 
-// A comment row isn't executed; of a row with a comment behind its words, the words are.
-void ExecuteRow(std::string_view text) {
-  if (!text.empty() && text.front() == '[') return;
-  ExecuteBlock(text.substr(0, text.find('[')));
+void PlayRow(std::string_view text) {
+  if (!ExecuteRow(text)) return;
   // Stop has zeroed the position, and a run to a break point shows nothing.
   if (StopRequested == kFalse && RunToBreakpoint == kFalse) {
     Graphics::ShowToolAt(CurrentZ, CurrentX);
@@ -113,7 +110,7 @@ void RunProgram() {
     frmMain::RemoveHighLighting(static_cast<std::int16_t>(row - 1));
     frmMain::HighLightExecutingLine(row);
     Desktop::Yield();
-    ExecuteRow(text);
+    PlayRow(text);
     if (frmMain::Toolbar.Buttons("Step").Value == 1) {
       frmMain::mnuRunPause_Click();
       frmMain::EnableCommands("Step", true);

@@ -1,8 +1,12 @@
 #pragma once
 
 #include <cstdint>
+#include <string_view>
 
 namespace ModCNC {
+
+// What a program's billet row begins with.
+inline constexpr std::string_view kBilletMark = "[BILLET";
 
 // Reads the row "[BILLET X20 Z40" (diameter and length in mm, in either order) into BilletX and
 // BilletZ. Returns -1, or 0 after a message when the program has no billet line or its numbers

@@ -1,7 +1,6 @@
 #include "motion/pattern_cycle.h"
 
 #include <string>
-#include <string_view>
 
 #include "debugger/debug_grid.h"
 #include "interpreter/decoder.h"
@@ -87,8 +86,7 @@ bool RunRows(RowRange rows) {
     // A copy: the row may be edited in place while its block runs.
     // NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
     const std::string text = DebugWindow.TextMatrix(row, frmMain::kTextColumn);
-    if (text.starts_with('[')) continue;
-    ExecuteBlock(std::string_view(text).substr(0, text.find('[')));
+    ExecuteRow(text);
   }
   return true;
 }

@@ -25,6 +25,24 @@ TEST_F(BlockTest, UnreadableWordsChangeNothing) {
   EXPECT_EQ(7, SpindleSpeed) << "the scan enters on a capital only";
 }
 
+TEST_F(BlockTest, AGNumberSelectsShowsAUnitOrEndsTheMotion) {
+  std::string known;
+  for (int number = -1; number <= 100; ++number) {
+    ActiveG = 5;
+    frmMain::StatusBar.Panels("Dim").Text = "";
+    DecodeGWord("G" + DecimalText(number));
+    if (ActiveG == -1) continue;
+    EXPECT_EQ(number == 20 || number == 21 ? 5 : number, ActiveG);
+    known += DecimalText(number) + frmMain::StatusBar.Panels("Dim").Text.Get() + ' ';
+  }
+  EXPECT_EQ("0 1 2 3 4 20In 21mm 28 70 73 90 94 ", known);
+  for (const std::string& word : {std::string("G32768"), 'G' + std::string(400, '9')}) {
+    ActiveG = 5;
+    DecodeGWord(word);
+    EXPECT_EQ(-1, ActiveG) << word;
+  }
+}
+
 TEST_F(BlockTest, RegistersCarryOverIntoTheNextRun) {
   Play({"[BILLET X20 Z10", "G01 X18 Z-5 R4 T5"});
   Play({"[BILLET X20 Z10", "X10"});
