@@ -7,7 +7,6 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <cstddef>
-#include <cstdint>
 
 #include "interpreter/machine.h"
 #include "mainwindow/control_surface.h"
@@ -19,37 +18,24 @@
 
 namespace {
 
-struct NamedRegister {
-  const char* name;
-  const std::int16_t* value;
-};
-
-constexpr NamedRegister kRegisters[] = {
-    {"TargetX", &ModCNC::TargetX},
-    {"TargetZ", &ModCNC::TargetZ},
-    {"ActiveG", &ModCNC::ActiveG},
-    {"CurrentX", &ModCNC::CurrentX},
-    {"CurrentZ", &ModCNC::CurrentZ},
-    {"FeedRate", &ModCNC::FeedRate},
-    {"WordI", &ModCNC::WordI},
-    {"WordK", &ModCNC::WordK},
-    {"WordP", &ModCNC::WordP},
-    {"WordQ", &ModCNC::WordQ},
-    {"WordR", &ModCNC::WordR},
-    {"ToolNumber", &ModCNC::ToolNumber},
-    {"SpindleSpeed", &ModCNC::SpindleSpeed},
-    {"WordU", &ModCNC::WordU},
-    {"WordW", &ModCNC::WordW},
-    {"RadiusGiven", &ModCNC::RadiusGiven},
-    {"BilletX", &GlobalVariables::BilletX},
-    {"BilletZ", &GlobalVariables::BilletZ},
-};
+using GlobalVariables::RunOutcome;
 
 constexpr const char* kReportedPanels[] = {"FeedRate", "Dim", "SpindleSpeed", "SpindleDirection",
                                            "Coolant"};
 
 QString ToQt(const std::string& utf8) {
   return QString::fromStdString(utf8);
+}
+
+QString OutcomeText(RunOutcome outcome) {
+  switch (outcome) {
+    case RunOutcome::SyntaxFault:
+      return "syntax error";
+    case RunOutcome::NoBillet:
+      return "no billet";
+    default:
+      return "done";
+  }
 }
 
 QJsonArray MessagesJson() {
@@ -72,8 +58,8 @@ QJsonArray NotificationsJson() {
 }
 
 // Where the fault is in the text as played; null when there is none.
-QJsonValue CheckJson(bool hasFault) {
-  if (!hasFault) return QJsonValue::Null;
+QJsonValue CheckJson(RunOutcome outcome) {
+  if (outcome != RunOutcome::SyntaxFault) return QJsonValue::Null;
   const RichText& editor = frmMain::TextEditor();
   return QJsonObject{{"SelStart", static_cast<qint64>(editor.SelStart())},
                      {"SelLength", static_cast<qint64>(editor.SelLength())}};
@@ -81,7 +67,9 @@ QJsonValue CheckJson(bool hasFault) {
 
 QJsonObject RegistersJson() {
   QJsonObject object;
-  for (const NamedRegister& entry : kRegisters) object[entry.name] = *entry.value;
+  for (const ModCNC::Register& entry : ModCNC::kRegisters) {
+    if (entry.isReported) object[entry.name] = *entry.value;
+  }
   return object;
 }
 
@@ -130,9 +118,9 @@ QByteArray ReportJson(const PlayOutcome& outcome) {
     taper.append(column.TaperMark);
   }
   const QJsonObject report{
-      {"outcome", ToQt(outcome.outcome)},
+      {"outcome", OutcomeText(outcome.run)},
       {"messages", MessagesJson()},
-      {"check", CheckJson(outcome.hasFault)},
+      {"check", CheckJson(outcome.run)},
       {"text", ToQt(CodePageToUtf8(outcome.text))},
       {"notifications", NotificationsJson()},
       {"registers", RegistersJson()},

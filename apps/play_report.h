@@ -3,17 +3,16 @@
 #include <QByteArray>
 #include <string>
 
+#include "interpreter/machine.h"
 #include "platform/raster.h"
 
 // What turnbay-play tells of a run that is over, taken from the shared state as it stands.
 
 struct PlayOutcome {
-  // "done", "syntax error" or "no billet".
-  std::string outcome = "done";
+  // Of the run, or of a check without one. A fault is selected in the editor.
+  GlobalVariables::RunOutcome run = GlobalVariables::RunOutcome::None;
   // The program as played.
   std::string text;
-  // A fault of the text was found and is selected in the editor.
-  bool hasFault = false;
   // How often a paused run was resumed.
   int resumes = 0;
 };

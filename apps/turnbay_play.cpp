@@ -35,6 +35,8 @@
 
 namespace {
 
+using GlobalVariables::RunOutcome;
+
 constexpr int kPlayed = 0;
 constexpr int kNotPlayable = 1;
 constexpr int kFileTrouble = 2;
@@ -83,8 +85,7 @@ void ShowProgress(int row) {
   std::fprintf(stderr, "\rrow %d of %d", row, frmMain::ProgressBar.Max.Get());
 }
 
-// Returns false when the text has a fault, so that no run began.
-bool Play(bool runToBreakpoint) {
+void Play(bool runToBreakpoint) {
   Windowless::SetHooks({}, ResumeRun);
   const bool showsProgress = isatty(STDERR_FILENO) != 0;
   if (showsProgress) frmMain::ProgressBar.Value.Watch(ShowProgress);
@@ -94,8 +95,6 @@ bool Play(bool runToBreakpoint) {
     frmMain::mnuRunStart_Click();
   }
   if (showsProgress) std::fputc('\n', stderr);
-  // Every run ends with a Stop, and nothing else has asked for one.
-  return GlobalVariables::StopRequested == kTrue;
 }
 
 bool Print(std::string_view bytes) {
@@ -179,26 +178,23 @@ int main(int argc, char** argv) {
   if (!LoadProgram(options.program)) return kFileTrouble;
   const std::string source = frmMain::TextEditor().Text();
 
-  const bool isToPlay = !options.check && !options.reformat;
   PlayOutcome outcome;
-  if (isToPlay) {
-    outcome.hasFault = !Play(options.runToBreakpoint);
-  } else {
+  if (options.check || options.reformat) {
     frmMain::ReformatText(frmMain::TextEditor());
     if (options.reformat && !PrintProgram()) return kFileTrouble;
-    outcome.hasFault = options.check && frmMain::CheckSyntax(frmMain::TextEditor());
+    if (options.check && frmMain::CheckSyntax(frmMain::TextEditor())) {
+      outcome.run = RunOutcome::SyntaxFault;
+    }
+  } else {
+    Play(options.runToBreakpoint);
+    outcome.run = GlobalVariables::LastRun;
   }
-  // Every run that finds its billet makes a profile.
-  const bool lacksBillet = isToPlay && !outcome.hasFault && Graphics::StockProfile.empty();
-  if (outcome.hasFault) {
-    outcome.outcome = "syntax error";
-    SayPlace(options, source, frmMain::TextEditor().SelStart());
-  } else if (lacksBillet) {
-    outcome.outcome = "no billet";
-    SayPlace(options, source, BilletOffset());
-  }
+  const bool hasFault = outcome.run == RunOutcome::SyntaxFault;
+  const bool lacksBillet = outcome.run == RunOutcome::NoBillet;
+  if (hasFault) SayPlace(options, source, frmMain::TextEditor().SelStart());
+  if (lacksBillet) SayPlace(options, source, BilletOffset());
   outcome.text = frmMain::TextEditor().Text();
   outcome.resumes = resumes;
   if (!WriteResults(options, outcome)) return kFileTrouble;
-  return outcome.hasFault || lacksBillet ? kNotPlayable : kPlayed;
+  return hasFault || lacksBillet ? kNotPlayable : kPlayed;
 }

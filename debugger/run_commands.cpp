@@ -98,7 +98,10 @@ void StartOrResume(bool toBreakpoint) {
   }
   if (runActive || WindowClosed != kFalse) return;
   ReformatText(TextEditor());
-  if (CheckSyntax(TextEditor())) return;
+  const bool hasFault = CheckSyntax(TextEditor());
+  using GlobalVariables::RunOutcome;
+  GlobalVariables::LastRun = hasFault ? RunOutcome::SyntaxFault : RunOutcome::Played;
+  if (hasFault) return;
   if (!toBreakpoint) GlobalVariables::RunToBreakpoint = kFalse;
   PlayProgram();
 }

@@ -1,7 +1,5 @@
 #include "interpreter/machine.h"
 
-#include <initializer_list>
-
 namespace ModCNC {
 
 std::int16_t TargetX = 0;
@@ -30,35 +28,15 @@ std::int16_t BilletX = 0;
 std::int16_t CurrentRow = 0;
 std::int16_t StopRequested = kFalse;
 std::int16_t RunToBreakpoint = kFalse;
+RunOutcome LastRun = RunOutcome::None;
 
 }  // namespace GlobalVariables
 
 namespace ModCNC {
 
 void ResetMachine() {
-  for (std::int16_t* variable : {&TargetX,
-                                 &TargetZ,
-                                 &ActiveG,
-                                 &CurrentX,
-                                 &CurrentZ,
-                                 &FeedRate,
-                                 &WordI,
-                                 &WordK,
-                                 &WordP,
-                                 &WordQ,
-                                 &WordR,
-                                 &ToolNumber,
-                                 &SpindleSpeed,
-                                 &WordU,
-                                 &WordW,
-                                 &RadiusGiven,
-                                 &GlobalVariables::BilletZ,
-                                 &GlobalVariables::BilletX,
-                                 &GlobalVariables::CurrentRow,
-                                 &GlobalVariables::StopRequested,
-                                 &GlobalVariables::RunToBreakpoint}) {
-    *variable = 0;
-  }
+  for (const Register& entry : kRegisters) *entry.value = 0;
+  GlobalVariables::LastRun = GlobalVariables::RunOutcome::None;
 }
 
 }  // namespace ModCNC

@@ -63,11 +63,48 @@ extern std::int16_t StopRequested;
 // Flag: play without drawing until a break point. Only a break point row clears it in a run.
 extern std::int16_t RunToBreakpoint;
 
+// What became of the last Start that wasn't a resume; while its run lasts, what has become of it so
+// far. A run that was stopped counts as played.
+enum class RunOutcome { None, SyntaxFault, NoBillet, Played };
+extern RunOutcome LastRun;
+
 }  // namespace GlobalVariables
 
 namespace ModCNC {
 
-// Puts every variable of this header back to 0.
+struct Register {
+  const char* name;
+  std::int16_t* value;
+  // It tells of the machine, not of the run, and is shown in the report of a run that is over.
+  bool isReported = true;
+};
+
+// Every variable of this header.
+inline constexpr Register kRegisters[] = {
+    {"TargetX", &TargetX},
+    {"TargetZ", &TargetZ},
+    {"ActiveG", &ActiveG},
+    {"CurrentX", &CurrentX},
+    {"CurrentZ", &CurrentZ},
+    {"FeedRate", &FeedRate},
+    {"WordI", &WordI},
+    {"WordK", &WordK},
+    {"WordP", &WordP},
+    {"WordQ", &WordQ},
+    {"WordR", &WordR},
+    {"ToolNumber", &ToolNumber},
+    {"SpindleSpeed", &SpindleSpeed},
+    {"WordU", &WordU},
+    {"WordW", &WordW},
+    {"RadiusGiven", &RadiusGiven},
+    {"BilletZ", &GlobalVariables::BilletZ},
+    {"BilletX", &GlobalVariables::BilletX},
+    {"CurrentRow", &GlobalVariables::CurrentRow, false},
+    {"StopRequested", &GlobalVariables::StopRequested, false},
+    {"RunToBreakpoint", &GlobalVariables::RunToBreakpoint, false},
+};
+
+// Puts every register back to 0, and LastRun to None.
 void ResetMachine();
 
 }  // namespace ModCNC

@@ -95,7 +95,10 @@ std::int16_t ReadBilletLine() {
 }
 
 void RunProgram() {
-  if (ReadBilletLine() == kFalse) return;
+  if (ReadBilletLine() == kFalse) {
+    LastRun = RunOutcome::NoBillet;
+    return;
+  }
   Graphics::InitStock(BilletZ, BilletX);
   PlaceTool();
   const std::int16_t rows = ClipToInt16(DebugWindow.Rows());

@@ -15,7 +15,8 @@ std::int16_t ReadBilletLine();
 
 // Plays the rows of DebugWindow from the first to the last, or until StopRequested is seen.
 // Called by mnuRunStart_Click only, and never while a run is active.
-// Reads the rows and the Step button; writes the registers, CurrentRow, the stock and ProgressBar.
+// Reads the rows and the Step button; writes the registers, CurrentRow, LastRun, the stock and
+// ProgressBar.
 // Yields twice a row and in every motion.
 void RunProgram();
 

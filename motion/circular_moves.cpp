@@ -26,11 +26,18 @@ constexpr double kNudgeX = 0.01;
 enum class Turn { Clockwise, CounterClockwise };
 
 struct Arc {
-  double startZ = CurrentZ;
-  double startX = CurrentX;
-  double endZ = TargetZ;
-  double endX = TargetX;
+  double startZ;
+  double startX;
+  double endZ;
+  double endX;
 };
+
+Arc ArcToTarget() {
+  return {.startZ = static_cast<double>(CurrentZ),
+          .startX = static_cast<double>(CurrentX),
+          .endZ = static_cast<double>(TargetZ),
+          .endX = static_cast<double>(TargetX)};
+}
 
 double SignOf(double value) {
   return value < 0 ? -1 : 1;
@@ -108,7 +115,7 @@ void FillPath(Arc& arc, const PathPoint& centre, double radius, Turn turn) {
 void PlayArc(Turn turn) {
   const double radius = TakeRadius();
   if (TargetX == CurrentX && TargetZ == CurrentZ) return;
-  Arc arc;
+  Arc arc = ArcToTarget();
   const auto centre = FindCentre(arc, radius, turn);
   if (!centre) {
     Desktop::MessageBox("Value of Radius is too small to draw", Desktop::kInformation, "Error!");

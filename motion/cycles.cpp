@@ -20,8 +20,6 @@ void MoveTo(void (*executor)(), std::int16_t x, std::int16_t z) {
   TargetX = x;
   TargetZ = z;
   executor();
-  CurrentX = TargetX;
-  CurrentZ = TargetZ;
 }
 
 // The R word of this block, used up.
@@ -34,9 +32,7 @@ int TakeTaper() {
 }  // namespace
 
 void ExecuteG28() {
-  if (TargetX != CurrentX || TargetZ != CurrentZ) ExecuteG01();
-  CurrentX = TargetX;
-  CurrentZ = TargetZ;
+  ExecuteG01();
   const double halfHeight = GlobalVariables::SimHeight / 2.0;
   const auto homeX = RoundToPixel(halfHeight - Graphics::ToolHeight - kHomeMarginTop);
   const int homeZ =

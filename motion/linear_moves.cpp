@@ -15,10 +15,16 @@ namespace {
 
 // Computed in int: two positions can lie further apart than 16 bits hold.
 struct Distance {
-  int z = TargetZ - CurrentZ;
-  int x = TargetX - CurrentX;
-  int steps = std::max(std::abs(z), std::abs(x));
+  int z;
+  int x;
+  int steps;
 };
+
+Distance DistanceToTarget() {
+  const int z = TargetZ - CurrentZ;
+  const int x = TargetX - CurrentX;
+  return {z, x, std::max(std::abs(z), std::abs(x))};
+}
 
 int SignOf(int value) {
   return (value > 0) - (value < 0);
@@ -38,7 +44,7 @@ void ArriveAtTarget() {
 }  // namespace
 
 void ExecuteG00() {
-  const Distance distance;
+  const Distance distance = DistanceToTarget();
   StartPath(distance.steps);
   int z = CurrentZ;
   int x = CurrentX;
@@ -54,7 +60,7 @@ void ExecuteG00() {
 }
 
 void ExecuteG01() {
-  const Distance distance;
+  const Distance distance = DistanceToTarget();
   if (distance.steps == 0) return;
   const double stepZ = static_cast<double>(distance.z) / distance.steps;
   const double stepX = static_cast<double>(distance.x) / distance.steps;

@@ -30,7 +30,7 @@ TEST_F(BlockTest, AGNumberSelectsShowsAUnitOrEndsTheMotion) {
   for (int number = -1; number <= 100; ++number) {
     ActiveG = 5;
     frmMain::StatusBar.Panels("Dim").Text = "";
-    DecodeGWord("G" + DecimalText(number));
+    DecodeGWord('G' + DecimalText(number));
     if (ActiveG == -1) continue;
     EXPECT_EQ(number == 20 || number == 21 ? 5 : number, ActiveG);
     known += DecimalText(number) + frmMain::StatusBar.Panels("Dim").Text.Get() + ' ';

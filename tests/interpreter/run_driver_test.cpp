@@ -30,4 +30,18 @@ TEST_F(RunDriverTest, StopLeavesThePatternCycleAtTheNextRow) {
   EXPECT_EQ(0, GCodes::CycleOffsetX);
 }
 
+TEST_F(RunDriverTest, EachStartTellsWhatBecameOfIt) {
+  using GlobalVariables::RunOutcome;
+  Fakes::CollectMessages();
+  const std::pair<const char*, RunOutcome> cases[] = {{"[BILLET X20 Z4", RunOutcome::Played},
+                                                      {"[BILLET X20", RunOutcome::NoBillet},
+                                                      {"G48", RunOutcome::SyntaxFault},
+                                                      {"[BILLET X2 Z4", RunOutcome::Played}};
+  for (const auto& [row, outcome] : cases) {
+    Fakes::AtYield(1, frmMain::mnuRunStop_Click);
+    Play({row});
+    EXPECT_EQ(outcome, GlobalVariables::LastRun) << row << ": the run before leaves nothing behind";
+  }
+}
+
 }  // namespace
