@@ -93,8 +93,8 @@ void Program(std::string_view bytes) {
 void Settings(std::string_view values) {
   Fakes::Reset();
   const auto texts = Split(values, "\n");
-  for (std::size_t i = 0; i < std::min(texts.size(), GlobalVariables::kSettingCount); ++i) {
-    const auto& row = GlobalVariables::kSettingRows.at(i);
+  for (std::size_t i = 0; i < std::min(texts.size(), GlobalVariables::kSettingRows.size()); ++i) {
+    const auto& row = GlobalVariables::kSettingRows[i];
     SaveSetting("CNC", row.section, row.key, texts[i]);
   }
   GlobalVariables::LoadSettings();

@@ -1,5 +1,6 @@
 #include "settings/frm_options_controls.h"
 
+#include <QGridLayout>
 #include <QLabel>
 #include <QPainter>
 
@@ -8,6 +9,8 @@
 #include "platform/qt/views/colours.h"
 
 namespace frmOptions {
+
+using GlobalVariables::SettingsRecord;
 
 namespace {
 
@@ -66,12 +69,6 @@ QGroupBox* MakeFrame(const char* name, const QString& caption) {
   return frame;
 }
 
-QCheckBox* MakeCheckBox(const char* name, const QString& caption) {
-  auto* box = new QCheckBox(caption);
-  box->setObjectName(name);
-  return box;
-}
-
 QPushButton* MakeDefaultsButton(const char* name, const QString& caption) {
   auto* button = new QPushButton(caption);
   button->setObjectName(name);
@@ -94,6 +91,41 @@ void AddRow(QFormLayout& form, const char* labelName, const QString& caption, QW
 void LetShrink(QWidget& control, int height) {
   control.setMinimumHeight(height);
   control.setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
+}
+
+QCheckBox* CheckBoxes::Add(const CheckBoxRow& row) {
+  auto* box = new QCheckBox(row.caption);
+  box->setObjectName(row.name);
+  box->setToolTip(row.toolTip);
+  boxes_.emplace_back(row.field, box);
+  return box;
+}
+
+QGroupBox* CheckBoxes::AddFrame(const char* name, std::span<const CheckBoxRow> rows, int columns) {
+  QGroupBox* frame = MakeFrame(name, "Others");
+  auto* grid = MakeLayout<QGridLayout>(frame);
+  const int height = (static_cast<int>(rows.size()) + columns - 1) / columns;
+  int place = 0;
+  for (const CheckBoxRow& row : rows) {
+    grid->addWidget(Add(row), place % height, place / height);
+    ++place;
+  }
+  return frame;
+}
+
+QCheckBox* CheckBoxes::Of(FlagField field) const {
+  for (const auto& [known, box] : boxes_) {
+    if (known == field) return box;
+  }
+  return nullptr;
+}
+
+void CheckBoxes::Show(const SettingsRecord& options) {
+  for (const auto& [field, box] : boxes_) box->setChecked(options.*field != 0);
+}
+
+void CheckBoxes::TakeInto(SettingsRecord& options) const {
+  for (const auto& [field, box] : boxes_) options.*field = box->isChecked() ? 1 : 0;
 }
 
 QComboBox* MakeFontList(const char* name) {

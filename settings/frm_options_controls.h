@@ -8,9 +8,13 @@
 #include <QPushButton>
 #include <cstdint>
 #include <functional>
+#include <span>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "platform/colour.h"
+#include "settings/settings.h"
 
 // The controls that the pages of the options dialog share.
 namespace frmOptions {
@@ -20,7 +24,6 @@ class Swatch : public QAbstractButton {
  public:
   Swatch(const char* name, const QString& accessibleName);
 
-  Colour BackColor() const { return colour_; }
   void SetBackColor(Colour colour);
   // Called when the user has chosen a colour.
   std::function<void(Colour)> Chosen;
@@ -41,16 +44,39 @@ Layout* MakeLayout(QWidget* parent) {
   layout->setContentsMargins(6, 6, 6, 6);
   return layout;
 }
-QCheckBox* MakeCheckBox(const char* name, const QString& caption);
 QPushButton* MakeDefaultsButton(const char* name, const QString& caption);
 // Adds a row of a label and its control, and another control at its end.
 void AddRow(QFormLayout& form, const char* labelName, const QString& caption, QWidget* control,
             QWidget* atEnd = nullptr);
 // A control that takes the space that is left, at least so many pixels of height.
 void LetShrink(QWidget& control, int height);
-inline std::int16_t FlagOf(const QCheckBox& box) {
-  return box.isChecked() ? 1 : 0;
-}
+
+using FlagField = std::int16_t GlobalVariables::SettingsRecord::*;
+
+// An option that is a check box. Its key and its default stand with its field.
+struct CheckBoxRow {
+  const char* name;
+  const char* caption;
+  FlagField field;
+  const char* toolTip = "";
+};
+
+// The check boxes of a page.
+class CheckBoxes {
+ public:
+  QCheckBox* Add(const CheckBoxRow& row);
+  // The frame "Others", filled column by column.
+  QGroupBox* AddFrame(const char* name, std::span<const CheckBoxRow> rows, int columns);
+  // The box of an option that was added.
+  QCheckBox* Of(FlagField field) const;
+
+  // Brings options to the boxes, and back.
+  void Show(const GlobalVariables::SettingsRecord& options);
+  void TakeInto(GlobalVariables::SettingsRecord& options) const;
+
+ private:
+  std::vector<std::pair<FlagField, QCheckBox*>> boxes_;
+};
 
 // The drop-down lists of fonts and of sizes in points. With nothing chosen at first.
 QComboBox* MakeFontList(const char* name);

@@ -6,7 +6,6 @@
 
 #include "platform/numbers.h"
 #include "platform/qt/views/grid_borders.h"
-#include "settings/frm_options_controls.h"
 
 namespace frmOptions {
 
@@ -29,6 +28,11 @@ constexpr NamedColour kColours[] = {
     {"Effect Colour", &SettingsRecord::EffectColor},
 };
 constexpr int kBreakPointText = 1;
+
+constexpr CheckBoxRow kOthers[] = {
+    {"chkShowGrid", "Show &Grids", &SettingsRecord::DebugGrid},
+    {"chkShowLineNumber", "&Show Line Numbers", &SettingsRecord::DebugLineNumbers},
+};
 
 // One for each row of the sample below the fixed one.
 struct SampleRow {
@@ -71,7 +75,7 @@ DebugPage::DebugPage(SettingsRecord& working) : working_(working) {
   layout->addWidget(MakeFontFrame());
   layout->addWidget(MakeFormatFrame());
   layout->addWidget(MakeSampleFrame(), 1);
-  layout->addWidget(MakeOthersFrame());
+  layout->addWidget(boxes_.AddFrame("Frame10", kOthers, 1));
   auto* cmdDebugDefault = MakeDefaultsButton("cmdDebugDefault", "Debug's Defaults");
   layout->addWidget(cmdDebugDefault, 0, Qt::AlignRight);
 
@@ -85,9 +89,10 @@ DebugPage::DebugPage(SettingsRecord& working) : working_(working) {
     if (ColourChosen) ColourChosen();
   };
   debugSample_->DblClick = [this] { EvenRowHeights(); };
-  connect(chkShowGrid_, &QCheckBox::toggled, this,
-          [this](bool on) { sample_.SetGridLines(on ? 1 : 0); });
-  connect(chkShowLineNumber_, &QCheckBox::toggled, this, [this] { ShowLineNumbers(); });
+  connect(boxes_.Of(&SettingsRecord::DebugGrid), &QCheckBox::toggled, this,
+          [this] { ShowGridLines(); });
+  connect(boxes_.Of(&SettingsRecord::DebugLineNumbers), &QCheckBox::toggled, this,
+          [this] { ShowLineNumbers(); });
   connect(cmdDebugDefault, &QPushButton::clicked, this, [this] { cmdDebugDefault_Click(); });
 }
 
@@ -134,24 +139,13 @@ QWidget* DebugPage::MakeSampleFrame() {
   return frame;
 }
 
-QWidget* DebugPage::MakeOthersFrame() {
-  QGroupBox* frame = MakeFrame("Frame10", "Others");
-  auto* column = MakeLayout<QVBoxLayout>(frame);
-  chkShowGrid_ = MakeCheckBox("chkShowGrid", "Show &Grids");
-  chkShowLineNumber_ = MakeCheckBox("chkShowLineNumber", "&Show Line Numbers");
-  column->addWidget(chkShowGrid_);
-  column->addWidget(chkShowLineNumber_);
-  return frame;
-}
-
 void DebugPage::LoadOptions() {
   ChooseFont(*cmbDebugFonts_, working_.DebugFontName);
   ChooseSize(*cmbDebugFontSize_, working_.DebugFontSize);
   LoadSample();
-  chkShowLineNumber_->setChecked(working_.DebugLineNumbers != 0);
+  boxes_.Show(working_);
   ShowLineNumbers();
-  chkShowGrid_->setChecked(working_.DebugGrid != 0);
-  sample_.SetGridLines(FlagOf(*chkShowGrid_));
+  ShowGridLines();
   cmbDebugColors_->setCurrentIndex(0);
 }
 
@@ -176,8 +170,7 @@ void DebugPage::TakeOptions() {
   working_.DebugC0Width = ClipToInt16(sample_.ColWidth(kNumberColumn));
   working_.DebugC1Width = ClipToInt16(sample_.ColWidth(kMarkColumn));
   working_.DebugC2Width = ClipToInt16(sample_.ColWidth(kTextColumn));
-  working_.DebugGrid = FlagOf(*chkShowGrid_);
-  working_.DebugLineNumbers = FlagOf(*chkShowLineNumber_);
+  boxes_.TakeInto(working_);
   working_.DebugRowHeight =
       ClipToInt16(std::max({sample_.RowHeight(1), sample_.RowHeight(2), sample_.RowHeight(3)}));
 }
@@ -211,8 +204,13 @@ void DebugPage::FormatSample() {
   }
 }
 
+void DebugPage::ShowGridLines() {
+  sample_.SetGridLines(boxes_.Of(&SettingsRecord::DebugGrid)->isChecked() ? 1 : 0);
+}
+
 void DebugPage::ShowLineNumbers() {
-  sample_.SetColWidth(kNumberColumn, working_.DebugC0Width * FlagOf(*chkShowLineNumber_));
+  const bool areShown = boxes_.Of(&SettingsRecord::DebugLineNumbers)->isChecked();
+  sample_.SetColWidth(kNumberColumn, areShown ? working_.DebugC0Width : 0);
 }
 
 // All rows get the height of the one under the pointer.
@@ -227,8 +225,7 @@ void DebugPage::cmdDebugDefault_Click() {
   const SettingsRecord defaults = GlobalVariables::DefaultSettings();
   ChooseFont(*cmbDebugFonts_, defaults.DebugFontName);
   ChooseSize(*cmbDebugFontSize_, defaults.DebugFontSize);
-  chkShowGrid_->setChecked(defaults.DebugGrid != 0);
-  chkShowLineNumber_->setChecked(defaults.DebugLineNumbers != 0);
+  boxes_.Show(defaults);
   for (const SampleRow& row : kRows) {
     working_.*row.back = defaults.*row.back;
     working_.*row.fore = defaults.*row.fore;

@@ -4,15 +4,12 @@
 #include <functional>
 
 #include "platform/grid_table.h"
+#include "settings/frm_options_controls.h"
 #include "settings/settings.h"
 
 class GridView;
-class QCheckBox;
-class QComboBox;
 
 namespace frmOptions {
-
-class Swatch;
 
 // The page "Debug" of the options dialog. Its colours live in the dialog's working settings.
 class DebugPage : public QWidget {
@@ -37,22 +34,21 @@ class DebugPage : public QWidget {
   QWidget* MakeFontFrame();
   QWidget* MakeFormatFrame();
   QWidget* MakeSampleFrame();
-  QWidget* MakeOthersFrame();
   void LoadSample();
   void FormatSample();
+  void ShowGridLines();
   void ShowLineNumbers();
   void EvenRowHeights();
   void cmdDebugDefault_Click();
 
   GlobalVariables::SettingsRecord& working_;
+  CheckBoxes boxes_;
   GridTable sample_;
   QComboBox* cmbDebugFonts_;
   QComboBox* cmbDebugFontSize_;
   QComboBox* cmbDebugColors_;
   Swatch* lblDebugColor_;
   GridView* debugSample_;
-  QCheckBox* chkShowGrid_;
-  QCheckBox* chkShowLineNumber_;
 };
 
 }  // namespace frmOptions

@@ -1,12 +1,10 @@
 #include "settings/frm_options_editor.h"
 
-#include <QGridLayout>
 #include <QLabel>
 #include <QVBoxLayout>
 #include <cstddef>
 
 #include "platform/qt/views/qt_rich_text.h"
-#include "settings/frm_options_controls.h"
 
 namespace frmOptions {
 
@@ -24,6 +22,15 @@ constexpr NamedColour kColours[] = {
     {"Characters", &SettingsRecord::EditorCharacterColor},
     {"Comments", &SettingsRecord::EditorCommentColor},
     {"Integers", &SettingsRecord::EditorIntegerColor},
+};
+
+constexpr CheckBoxRow kBold = {"chkEditorFontBold", "Bold", &SettingsRecord::EditorFontBold};
+constexpr CheckBoxRow kOthers[] = {
+    {"chkAutoComplete", "&Auto Complete", &SettingsRecord::AutoComplete},
+    {"chkAutoReformat", "Auto Reformat", &SettingsRecord::AutoReformat,
+     "A program is always reformatted at Start"},
+    {"chkSplashScreen", "Show Splash Screen", &SettingsRecord::SplashScreen},
+    {"chkOpenLastFile", "Open Last File On Startup ", &SettingsRecord::OpenLastFile},
 };
 
 constexpr const char* kSampleText = "[BILLET X20 Z40\r\nG00 X20 Z0\r\nG01 Z-40";
@@ -47,14 +54,14 @@ EditorPage::EditorPage(SettingsRecord& working) : working_(working) {
   layout->addWidget(MakeFontFrame());
   layout->addWidget(MakeColourFrame());
   layout->addWidget(MakeSampleFrame(), 1);
-  layout->addWidget(MakeOthersFrame());
+  layout->addWidget(boxes_.AddFrame("Frame9", kOthers, 2));
   auto* cmdEditorDefault = MakeDefaultsButton("cmdEditorDefault", "&Editor's Defaults");
   cmdEditorDefault->setToolTip("Click here to Restore Default Values");
   layout->addWidget(cmdEditorDefault, 0, Qt::AlignRight);
 
   connect(cmbEditorFonts_, &QComboBox::currentIndexChanged, this, [this] { FormatSample(); });
   connect(cmbEditorFontSize_, &QComboBox::currentIndexChanged, this, [this] { FormatSample(); });
-  connect(chkEditorFontBold_, &QCheckBox::toggled, this, [this] { FormatSample(); });
+  connect(boxes_.Of(kBold.field), &QCheckBox::toggled, this, [this] { FormatSample(); });
   connect(cmbEditorColours_, &QComboBox::currentIndexChanged, this,
           [this] { cmbEditorColours_Click(); });
   lblEditorColor_->Chosen = [this](Colour colour) {
@@ -70,8 +77,7 @@ QWidget* EditorPage::MakeFontFrame() {
   cmbEditorFonts_ = MakeFontList("cmbEditorFonts");
   cmbEditorFontSize_ = MakeSizeList("cmbEditorFontSize");
   AddRow(*form, "Label1", "Font:", cmbEditorFonts_);
-  chkEditorFontBold_ = MakeCheckBox("chkEditorFontBold", "Bold");
-  AddRow(*form, "Label2", "Size:", cmbEditorFontSize_, chkEditorFontBold_);
+  AddRow(*form, "Label2", "Size:", cmbEditorFontSize_, boxes_.Add(kBold));
   return frame;
 }
 
@@ -103,43 +109,20 @@ QWidget* EditorPage::MakeSampleFrame() {
   return frame;
 }
 
-QWidget* EditorPage::MakeOthersFrame() {
-  QGroupBox* frame = MakeFrame("Frame9", "Others");
-  auto* grid = MakeLayout<QGridLayout>(frame);
-  chkAutoComplete_ = MakeCheckBox("chkAutoComplete", "&Auto Complete");
-  chkAutoReformat_ = MakeCheckBox("chkAutoReformat", "Auto Reformat");
-  chkAutoReformat_->setToolTip("A program is always reformatted at Start");
-  chkSplashScreen_ = MakeCheckBox("chkSplashScreen", "Show Splash Screen");
-  chkOpenLastFile_ = MakeCheckBox("chkOpenLastFile", "Open Last File On Startup ");
-  grid->addWidget(chkAutoComplete_, 0, 0);
-  grid->addWidget(chkAutoReformat_, 1, 0);
-  grid->addWidget(chkSplashScreen_, 0, 1);
-  grid->addWidget(chkOpenLastFile_, 1, 1);
-  return frame;
-}
-
 void EditorPage::LoadOptions() {
   ChooseFont(*cmbEditorFonts_, working_.EditorFontName);
   ChooseSize(*cmbEditorFontSize_, working_.EditorFontSize);
-  chkEditorFontBold_->setChecked(working_.EditorFontBold != 0);
+  boxes_.Show(working_);
   richSample_->SetText(kSampleText);
   FormatSample();
   PaintEditorSample();
-  chkAutoComplete_->setChecked(working_.AutoComplete != 0);
-  chkAutoReformat_->setChecked(working_.AutoReformat != 0);
-  chkOpenLastFile_->setChecked(working_.OpenLastFile != 0);
-  chkSplashScreen_->setChecked(working_.SplashScreen != 0);
   cmbEditorColours_->setCurrentIndex(0);
 }
 
 void EditorPage::TakeOptions() {
   working_.EditorFontName = cmbEditorFonts_->currentText().toStdString();
   working_.EditorFontSize = ChosenSize(*cmbEditorFontSize_);
-  working_.EditorFontBold = FlagOf(*chkEditorFontBold_);
-  working_.AutoComplete = FlagOf(*chkAutoComplete_);
-  working_.SplashScreen = FlagOf(*chkSplashScreen_);
-  working_.AutoReformat = FlagOf(*chkAutoReformat_);
-  working_.OpenLastFile = FlagOf(*chkOpenLastFile_);
+  boxes_.TakeInto(working_);
 }
 
 void EditorPage::PaintEditorSample() {
@@ -157,7 +140,7 @@ void EditorPage::FormatSample() {
   richSample_->SetSelLength(richSample_->Text().size());
   richSample_->SetSelFontName(cmbEditorFonts_->currentText().toStdString());
   richSample_->SetSelFontSize(ChosenSize(*cmbEditorFontSize_));
-  richSample_->SetSelBold(chkEditorFontBold_->isChecked());
+  richSample_->SetSelBold(boxes_.Of(kBold.field)->isChecked());
   richSample_->SetSelStart(0);
 }
 
@@ -169,13 +152,9 @@ void EditorPage::cmdEditorDefault_Click() {
   const SettingsRecord defaults = GlobalVariables::DefaultSettings();
   ChooseFont(*cmbEditorFonts_, defaults.EditorFontName);
   ChooseSize(*cmbEditorFontSize_, defaults.EditorFontSize);
-  chkEditorFontBold_->setChecked(defaults.EditorFontBold != 0);
+  boxes_.Show(defaults);
   // The swatch keeps its colour until the list is used.
   for (const NamedColour& colour : kColours) working_.*colour.field = defaults.*colour.field;
-  chkAutoComplete_->setChecked(defaults.AutoComplete != 0);
-  chkAutoReformat_->setChecked(defaults.AutoReformat != 0);
-  chkOpenLastFile_->setChecked(defaults.OpenLastFile != 0);
-  chkSplashScreen_->setChecked(defaults.SplashScreen != 0);
   PaintEditorSample();
 }
 

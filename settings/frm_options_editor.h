@@ -2,15 +2,12 @@
 
 #include <QWidget>
 
+#include "settings/frm_options_controls.h"
 #include "settings/settings.h"
 
-class QCheckBox;
-class QComboBox;
 class QtRichText;
 
 namespace frmOptions {
-
-class Swatch;
 
 // The page "Editor" of the options dialog. Its colours live in the dialog's working settings.
 class EditorPage : public QWidget {
@@ -26,23 +23,18 @@ class EditorPage : public QWidget {
   QWidget* MakeFontFrame();
   QWidget* MakeColourFrame();
   QWidget* MakeSampleFrame();
-  QWidget* MakeOthersFrame();
   void PaintEditorSample();
   void FormatSample();
   void cmbEditorColours_Click();
   void cmdEditorDefault_Click();
 
   GlobalVariables::SettingsRecord& working_;
+  CheckBoxes boxes_;
   QComboBox* cmbEditorFonts_;
   QComboBox* cmbEditorFontSize_;
-  QCheckBox* chkEditorFontBold_;
   QComboBox* cmbEditorColours_;
   Swatch* lblEditorColor_;
   QtRichText* richSample_;
-  QCheckBox* chkAutoComplete_;
-  QCheckBox* chkAutoReformat_;
-  QCheckBox* chkSplashScreen_;
-  QCheckBox* chkOpenLastFile_;
 };
 
 }  // namespace frmOptions

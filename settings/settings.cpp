@@ -13,7 +13,9 @@ SettingsRecord Settings;
 
 using Record = SettingsRecord;
 
-const std::array<SettingRow, kSettingCount> kSettingRows = {{
+namespace {
+
+constexpr SettingRow kRows[] = {
     {"TextEditor", "Font", "Courier New", &Record::EditorFontName},
     {"TextEditor", "Size", "10", &Record::EditorFontSize},
     {"TextEditor", "Integer", "0", &Record::EditorIntegerColor},
@@ -42,9 +44,7 @@ const std::array<SettingRow, kSettingCount> kSettingRows = {{
     {"SimulationWindow", "WorkPieceColor", "16711680", &Record::WorkPieceColor},
     {"SimulationWindow", "BackColor", "16777215", &Record::SimBackColor},
     {"SimulationWindow", "EffectColor", "16750230", &Record::EffectColor},
-}};
-
-namespace {
+};
 
 constexpr std::int32_t kMaxColour = 0xFFFFFF;
 
@@ -78,6 +78,8 @@ void SetField(Record& record, const SettingRow& row, std::string_view text) {
 }
 
 }  // namespace
+
+const std::span<const SettingRow> kSettingRows = kRows;
 
 void LoadSettings() {
   const SettingRow& editorFont = kSettingRows.front();

@@ -1,8 +1,7 @@
 #pragma once
 
-#include <array>
-#include <cstddef>
 #include <cstdint>
+#include <span>
 #include <string>
 #include <string_view>
 #include <variant>
@@ -62,8 +61,7 @@ struct SettingRow {
   SettingField field;
 };
 
-inline constexpr std::size_t kSettingCount = 28;
-extern const std::array<SettingRow, kSettingCount> kSettingRows;
+extern const std::span<const SettingRow> kSettingRows;
 
 // Fills Settings from the store. A store without an editor font counts as unused: all defaults are
 // written first. A value that is absent or can't be read takes its default. Touches no control.
