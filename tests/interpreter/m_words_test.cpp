@@ -35,8 +35,8 @@ TEST_F(MWordsTest, StopInsideModalNotificationEndsTheRunBehindItsRow) {
     EXPECT_EQ(150, ModCNC::TargetX) << "the words behind wait for the notification";
     frmMain::mnuRunStop_Click();
   });
-  Play({"[BILLET X20 Z40", "X30 M10 X10", "M26"});
-  EXPECT_EQ(std::vector<std::string>{"Chuck OPEN"}, Fakes::Notifications());
+  Play({"[BILLET X20 Z40", "X30 M10 X10 M25", "M26"});
+  EXPECT_EQ((std::vector<std::string>{"Chuck OPEN", "Quill Extend"}), Fakes::Notifications());
 }
 
 TEST_F(MWordsTest, ToolChangeLoadsTheNumberedToolOrLeavesTheOldOne) {
@@ -48,17 +48,24 @@ TEST_F(MWordsTest, ToolChangeLoadsTheNumberedToolOrLeavesTheOldOne) {
       {"round.bmp", "TOOLHEIGHT=30", "\"round.ini\" needs a width above 0"},
       {"round.bmp", "TOOLWIDTH=40\nTOOLHEIGHT=-3", "\"round.ini\" needs a height above 0"},
       {"round.bmp", size, ""}};
+  Fakes::PutPicture("/app/tools/old.bmp", TriangleTool(50, 30));
+  Fakes::PutFile("/app/tools/old.ini", "TOOLWIDTH=50\r\nTOOLHEIGHT=30");
   Fakes::PutPicture("/app/tools/round.bmp", TriangleTool(40, 30));
   Fakes::PutFile("/app/tools/blank.ini", size);
   Fakes::CollectMessages();
   for (const auto& [entry, description, fault] : cases) {
-    Fakes::PutFile("/app/tools/ToolList.ini", "2=" + entry);
+    Fakes::PutFile("/app/tools/ToolList.ini", "1=old.bmp\r\n2=" + entry);
     Fakes::PutFile("/app/tools/round.ini", description);
     const std::size_t told = Fakes::Messages().size();
-    Play({"[BILLET X20 Z20", "T2 M06"});
-    EXPECT_EQ(fault.empty() ? 40 : 67, Graphics::ToolDC.sprite.Width()) << fault;
-    EXPECT_EQ(told + (fault.empty() ? 0 : 1), Fakes::Messages().size()) << fault;
-    EXPECT_THAT(Fakes::Messages().back().text, testing::HasSubstr(fault));
+    int widthWhenNotified = 0;
+    Fakes::AtEachNotification([&] { widthWhenNotified = Graphics::ToolDC.sprite.Width(); });
+    Play({"[BILLET X20 Z20", "T1 M06", "T2 M06"});
+    EXPECT_EQ(50, widthWhenNotified) << "before the tool is looked for";
+    EXPECT_EQ(fault.empty() ? 40 : 50, Graphics::ToolDC.sprite.Width()) << fault;
+    ASSERT_EQ(told + (fault.empty() ? 0 : 1), Fakes::Messages().size()) << fault;
+    if (!fault.empty()) {
+      EXPECT_THAT(Fakes::Messages().back().text, testing::HasSubstr(fault));
+    }
   }
 }
 
