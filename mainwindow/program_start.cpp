@@ -14,6 +14,7 @@
 #include "motion/tool.h"
 #include "settings/settings.h"
 #include "toollib/tool_files.h"
+#include "toollib/tool_folder.h"
 
 namespace frmMain {
 
@@ -30,6 +31,7 @@ void ResetToProgramStart() {
   GCodes::ResetPlayer();
   GCodes::ResetPatternCycle();
   frmToolSelect::ResetToolFiles();
+  GlobalVariables::SetToolFolder("");
   frmInfo::ResetNotifications();
   GlobalVariables::Settings = {};
 }

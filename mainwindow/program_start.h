@@ -2,8 +2,9 @@
 
 namespace frmMain {
 
-// Puts all shared state back to what it is when the program starts: registers, run flags, stock,
-// tool, settings record and controls. The settings store and files are not touched.
+// Gives all shared state the values with which a program starts: registers, run flags, stock, tool,
+// tool folder, settings record and controls. Programs and tests call it first. The settings store
+// and files are not touched.
 void ResetToProgramStart();
 
 }  // namespace frmMain
