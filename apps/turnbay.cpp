@@ -5,6 +5,7 @@
 #include "interpreter/machine.h"
 #include "mainwindow/control_surface.h"
 #include "mainwindow/frm_main.h"
+#include "mainwindow/program_start.h"
 #include "platform/host/desktop.h"
 #include "platform/qt/host/application_folder.h"
 #include "platform/qt/host/settings_trouble.h"
@@ -42,6 +43,7 @@ int main(int argc, char** argv) {
                           "Error!");
     });
   });
+  frmMain::ResetToProgramStart();
   frmMain::Window window;
   window.Load();
   if (frmMain::WindowClosed != kFalse) return 0;

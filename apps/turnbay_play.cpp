@@ -22,6 +22,7 @@
 #include "interpreter/run_driver.h"
 #include "mainwindow/control_surface.h"
 #include "mainwindow/layout.h"
+#include "mainwindow/program_start.h"
 #include "mainwindow/start_up.h"
 #include "mainwindow/view_toggles.h"
 #include "motion/stock.h"
@@ -55,6 +56,7 @@ void ShowSimulationAlone() {
 }
 
 void StartUp(const PlayOptions& options) {
+  frmMain::ResetToProgramStart();
   ShowSimulationAlone();
   frmMain::ScaleWidth = options.size.width;
   frmMain::ScaleHeight = options.size.height;

@@ -15,7 +15,7 @@ namespace frmMain {
 
 using GlobalVariables::Settings;
 
-std::int16_t EditRow = 0;
+std::int16_t EditRow;
 
 namespace {
 

@@ -21,7 +21,7 @@ namespace {
 
 // A run is on the stack. The buttons are idle as soon as Stop is pressed, while the run below is
 // still leaving: a Start in that moment must not begin a second one.
-bool runActive = false;
+bool runActive;
 
 // Menus that are closed as a whole during a run, in the order of their closing.
 MenuEntry* const kRunMenus[] = {&mnuFile, &mnuView, &mnuTools, &mnuHelp};

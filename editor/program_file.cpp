@@ -13,7 +13,7 @@
 
 namespace frmMain {
 
-bool DocumentIsUtf8 = false;
+bool DocumentIsUtf8;
 
 namespace {
 

@@ -10,7 +10,7 @@
 
 namespace frmMain {
 
-std::int16_t OverlaysPlaced = kFalse;
+std::int16_t OverlaysPlaced;
 
 namespace {
 

@@ -15,18 +15,18 @@ namespace GCodes {
 using namespace ModCNC;
 using frmMain::DebugWindow;
 
-std::int16_t CycleArmed = kFalse;
-double ReliefZ = 0;
-double ReliefX = 0;
-std::int16_t CyclePasses = 0;
+std::int16_t CycleArmed;
+double ReliefZ;
+double ReliefX;
+std::int16_t CyclePasses;
 
 namespace {
 
 // A range can reach the row of its own second block, which would run the cycle without end.
-bool cycleRunning = false;
+bool cycleRunning;
 
 // The row that bears the execution mark of the cycle.
-std::int16_t markedRow = 0;
+std::int16_t markedRow;
 
 struct RowRange {
   std::int16_t first = 0;

@@ -13,11 +13,11 @@
 namespace GCodes {
 
 std::vector<PathPoint> PathPoints;
-std::int16_t RapidMove = kFalse;
-std::int16_t FastSoundOn = kFalse;
-double CycleOffsetX = 0;
-double CycleOffsetZ = 0;
-std::int64_t PointsPlayed = 0;
+std::int16_t RapidMove;
+std::int16_t FastSoundOn;
+double CycleOffsetX;
+double CycleOffsetZ;
+std::int64_t PointsPlayed;
 
 namespace {
 

@@ -20,8 +20,8 @@ using GlobalVariables::SimHeight;
 using GlobalVariables::SimWidth;
 
 std::vector<ProfileColumn> StockProfile;
-std::int16_t CentreLine = 0;
-std::int16_t TaperCut = 0;
+std::int16_t CentreLine;
+std::int16_t TaperCut;
 
 namespace {
 
@@ -53,7 +53,7 @@ void MarkShoulder(int column, int top) {
 
 // Where the tool stands, as the panel tells it.
 std::optional<int> toolZ;
-int toolX = 0;
+int toolX;
 
 // A length of so many tenths of a millimetre in millimetres, with one decimal.
 std::string Millimetres(int tenths) {
@@ -135,6 +135,7 @@ void ApplyEffect() {
 
 void ResetStock() {
   toolZ.reset();
+  toolX = 0;
   StockProfile.clear();
   StockDC = {};
   CentreLine = 0;
