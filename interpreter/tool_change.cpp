@@ -60,7 +60,6 @@ bool LoadBitmap(const std::string& name, std::string& reason) {
     reason += kAssignAnother;
     return false;
   }
-  Graphics::FreeToolDCs();
   Graphics::LoadTool(*picture, width, height);
   return true;
 }

@@ -6,23 +6,22 @@
 
 namespace Graphics {
 
-std::int16_t ToolWidth = 0;
-std::int16_t ToolHeight = 0;
+std::int16_t ToolWidth;
+std::int16_t ToolHeight;
 ToolImage ToolDC;
-int LastToolX = 0;
-int LastToolY = 0;
+int LastToolX;
+int LastToolY;
 
 void LoadTool(const std::string& path, std::int16_t width, std::int16_t height) {
+  std::string reason;
+  if (const auto picture = LoadPicture(path, reason)) {
+    LoadTool(*picture, width, height);
+    return;
+  }
   FreeToolDCs();
   ToolWidth = width;
   ToolHeight = height;
-  std::string reason;
-  const auto picture = LoadPicture(path, reason);
-  if (!picture) {
-    Desktop::MessageBox(reason);
-    return;
-  }
-  LoadTool(*picture, width, height);
+  Desktop::MessageBox(reason);
 }
 
 void LoadTool(const Raster& picture, std::int16_t width, std::int16_t height) {

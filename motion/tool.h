@@ -12,8 +12,7 @@ namespace Graphics {
 extern std::int16_t ToolWidth;
 extern std::int16_t ToolHeight;
 
-// The loaded tool's pictures: 0 the sprite, 1 its silhouette, 2 the silhouette flipped. All three
-// share one set of opaque pixels.
+// Its sprite, and the colour with which the shape of its opaque pixels cuts.
 extern ToolImage ToolDC;
 
 // Pixel of the top left corner of the sprite drawn last. Wider than a position, so that the sum of
@@ -32,7 +31,7 @@ void LoadTool(const std::string& path, std::int16_t width, std::int16_t height);
 // The same with a picture that has been read already.
 void LoadTool(const Raster& picture, std::int16_t width, std::int16_t height);
 
-// Lets go of the loaded tool's pictures.
+// Unloads the tool: until the next one is loaded, none is drawn.
 void FreeToolDCs();
 
 void ResetTool();
