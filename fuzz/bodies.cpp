@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <stdexcept>
 #include <string>
+#include <variant>
+#include <vector>
 
 #include "debugger/debug_grid.h"
 #include "editor/reformat.h"
@@ -10,6 +12,7 @@
 #include "interpreter/run_driver.h"
 #include "interpreter/tool_change.h"
 #include "mainwindow/layout.h"
+#include "motion/player.h"
 #include "motion/tool.h"
 #include "platform/code_page.h"
 #include "platform/host/settings_store.h"
@@ -26,11 +29,37 @@ void Require(bool holds, const char* promise) {
   if (!holds) throw std::logic_error(promise);
 }
 
+void RequireValue(const std::string& font) {
+  Require(!font.empty(), "every font has a name");
+}
+
+void RequireValue(Colour colour) {
+  Require(colour <= 0xFFFFFF, "every colour is one");
+}
+
+// Any number will do.
+void RequireValue(std::int16_t /*number*/) {}
+
+// Of the billet as the last look found it; empty before the run.
+std::vector<Graphics::ProfileColumn> formerProfile;
+
+void LookAtProfile() {
+  const auto& profile = Graphics::StockProfile;
+  for (std::size_t i = 0; i < profile.size(); ++i) {
+    const int bound =
+        i < formerProfile.size() ? formerProfile[i].Radius : (GlobalVariables::BilletX + 1) / 2;
+    Require(profile[i].Radius >= 0 && profile[i].Radius <= bound, "the profile never rises");
+  }
+  formerProfile = profile;
+}
+
 // Resumes a paused run, and stops one that has yielded often enough for a thousand points of its
 // path. After that it leaves within its row.
 void KeepRunGoing() {
   constexpr int kYieldBound = 100;
+  constexpr int kLookEvery = 25;
   Require(Fakes::Yields() < 20 * kYieldBound, "a stopped run ends");
+  if (Fakes::Yields() % kLookEvery == 0) LookAtProfile();
   if (Fakes::Yields() == kYieldBound) {
     frmMain::mnuRunStop_Click();
   } else if (frmMain::IsRunPaused()) {
@@ -64,6 +93,7 @@ void StartMachine() {
 
 void Program(std::string_view bytes) {
   StartMachine();
+  formerProfile.clear();
   Fakes::AtEachYield(KeepRunGoing);
   Fakes::AtEachNotification(StopWhatNotifiesForEver);
   frmMain::Slider.Value = SliderControl::kMax;
@@ -84,10 +114,8 @@ void Program(std::string_view bytes) {
     frmMain::FillDebugWindow();
     frmMain::mnuRunStart_Click();
   }
-  for (const Graphics::ProfileColumn& column : Graphics::StockProfile) {
-    Require(column.Radius >= 0 && column.Radius <= (GlobalVariables::BilletX + 1) / 2,
-            "the profile never rises");
-  }
+  LookAtProfile();
+  Require(GCodes::CycleOffsetX == 0 && GCodes::CycleOffsetZ == 0, "a cycle takes its offsets back");
 }
 
 void Settings(std::string_view values) {
@@ -98,8 +126,9 @@ void Settings(std::string_view values) {
     SaveSetting("CNC", row.section, row.key, texts[i]);
   }
   GlobalVariables::LoadSettings();
-  Require(!GlobalVariables::Settings.EditorFontName.empty(), "every font has a name");
-  Require(GlobalVariables::Settings.EditorBackColor <= 0xFFFFFF, "every colour is one");
+  for (const GlobalVariables::SettingRow& row : GlobalVariables::kSettingRows) {
+    std::visit([](auto field) { RequireValue(GlobalVariables::Settings.*field); }, row.field);
+  }
 }
 
 void ToolFiles(std::string_view files) {
@@ -109,6 +138,10 @@ void ToolFiles(std::string_view files) {
   Fakes::PutFile("/app/tools/a.ini", std::string(files.substr(std::min(end + 1, files.size()))));
   Graphics::LoadTool("/app/tools/tool.bmp", 8, 8);
   frmToolSelect::GetToolList();
+  auto listed = frmToolSelect::cmbTools.ItemData;
+  std::sort(listed.begin(), listed.end());
+  Require(std::adjacent_find(listed.begin(), listed.end()) == listed.end(),
+          "no number is listed twice");
   for (const std::int16_t number : std::initializer_list<std::int16_t>{-1, 0, 1, 21}) {
     ModCNC::ToolNumber = number;
     ModCNC::ChangeTool();
