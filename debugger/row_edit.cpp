@@ -9,6 +9,7 @@
 #include "interpreter/machine.h"
 #include "mainwindow/control_surface.h"
 #include "platform/text.h"
+#include "platform/virtual_keys.h"
 #include "settings/settings.h"
 
 namespace frmMain {
@@ -18,9 +19,6 @@ using GlobalVariables::Settings;
 std::int16_t EditRow;
 
 namespace {
-
-constexpr std::int16_t kEnter = 13;
-constexpr std::int16_t kEscape = 27;
 
 constexpr double kTwipsPerPixel = 15;
 // Gap between the edit box and the grid's right edge, in pixels.
@@ -102,8 +100,8 @@ void DebugWindow_DblClick() {
 
 void txtDebug_KeyUp(std::int16_t keyCode, std::int16_t /*shift*/) {
   if (!txtDebug.Visible) return;
-  if (keyCode == kEnter) TakeEditOver();
-  if (keyCode == kEscape) txtDebug.Visible = false;
+  if (keyCode == VirtualKeys::kEnter) TakeEditOver();
+  if (keyCode == VirtualKeys::kEscape) txtDebug.Visible = false;
 }
 
 void txtDebug_LostFocus() {

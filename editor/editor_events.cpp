@@ -7,6 +7,7 @@
 #include "interpreter/machine.h"
 #include "mainwindow/control_surface.h"
 #include "platform/host/desktop.h"
+#include "platform/virtual_keys.h"
 #include "settings/settings.h"
 
 namespace frmMain {
@@ -14,12 +15,6 @@ namespace frmMain {
 using GlobalVariables::Settings;
 
 namespace {
-
-// Virtual keys.
-constexpr std::int16_t kEnter = 13;
-constexpr std::int16_t kSpaceBar = 32;
-constexpr std::int16_t kRightArrow = 39;
-constexpr std::int16_t kBracket = 219;
 
 constexpr std::int16_t kNoModifier = 0;
 constexpr std::int16_t kShiftAlone = 1;
@@ -31,13 +26,14 @@ bool IsBetween(std::int16_t value, std::int16_t low, std::int16_t high) {
 }
 
 bool PicksCharacterColour(std::int16_t keyCode) {
-  return keyCode == kRightArrow || keyCode == kSpaceBar || keyCode == kBracket ||
-         IsBetween(keyCode, 'A', 'Z');
+  return keyCode == VirtualKeys::kRightArrow || keyCode == VirtualKeys::kSpaceBar ||
+         keyCode == VirtualKeys::kBracket || IsBetween(keyCode, 'A', 'Z');
 }
 
 // The digits of the main block and of the number pad.
 bool PicksIntegerColour(std::int16_t keyCode) {
-  return IsBetween(keyCode, '0', '9') || IsBetween(keyCode, 96, 105);
+  return IsBetween(keyCode, '0', '9') ||
+         IsBetween(keyCode, VirtualKeys::kNumberPad0, VirtualKeys::kNumberPad9);
 }
 
 }  // namespace
@@ -53,7 +49,7 @@ void TextEditor_Change() {
 
 void TextEditor_KeyDown(std::int16_t& keyCode, std::int16_t& shift) {
   RichText& editor = TextEditor();
-  if (keyCode == kEnter && editor.SelLength() != 0 && Settings.AutoComplete != 0) {
+  if (keyCode == VirtualKeys::kEnter && editor.SelLength() != 0 && Settings.AutoComplete != 0) {
     Desktop::SendKeys(Desktop::kRightArrowKeys);
     Desktop::SendKeys(" ");
     keyCode = 0;
@@ -72,7 +68,7 @@ void TextEditor_KeyPress(std::int16_t& character) {
 }
 
 void TextEditor_KeyUp(std::int16_t keyCode, std::int16_t /*shift*/) {
-  if (keyCode != kBracket || Settings.AutoComplete == 0) return;
+  if (keyCode != VirtualKeys::kBracket || Settings.AutoComplete == 0) return;
   const std::size_t caret = TextEditor().SelStart();
   Desktop::SendKeys(std::string(kOfferedWord));
   Desktop::Yield();

@@ -7,14 +7,13 @@
 #include "mainwindow/control_surface.h"
 #include "motion/stock.h"
 #include "platform/numbers.h"
+#include "platform/virtual_keys.h"
 
 namespace frmMain {
 
 std::int16_t OverlaysPlaced;
 
 namespace {
-
-constexpr std::int16_t kF2 = 113;
 
 // The left pane's share of the window's width.
 constexpr double kPaneShare = 0.23;
@@ -85,7 +84,7 @@ void Form_Paint() {
 }
 
 void Form_KeyUp(std::int16_t keyCode, std::int16_t /*shift*/) {
-  if (keyCode == kF2) Graphics::DrawSurface();
+  if (keyCode == VirtualKeys::kF2) Graphics::DrawSurface();
 }
 
 void ResetLayout() {

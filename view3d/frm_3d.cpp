@@ -10,15 +10,11 @@
 #include "mainwindow/control_surface.h"
 #include "platform/host/desktop.h"
 #include "platform/qt/views/key_codes.h"
+#include "platform/virtual_keys.h"
 
 namespace {
 
-constexpr int kEscape = 27;
-constexpr int kX = 88;
-constexpr int kNumberPadPlus = 107;
-constexpr int kNumberPadMinus = 109;
-constexpr int kF5 = 116;
-constexpr int kF6 = 117;
+using VirtualKeys::kNumberPad0;
 
 // A key of the number pad adds degrees to an angle; 0 sets it back to 0.
 struct TurnKey {
@@ -28,10 +24,12 @@ struct TurnKey {
 };
 
 constexpr TurnKey kTurnKeys[] = {
-    {96, &TurnedPart::RotX, 0},   {96, &TurnedPart::RotY, 0},   {96, &TurnedPart::RotZ, 0},
-    {97, &TurnedPart::RotX, 3},   {98, &TurnedPart::RotY, 3},   {99, &TurnedPart::RotZ, 3},
-    {100, &TurnedPart::RotX, -3}, {101, &TurnedPart::RotY, -3}, {102, &TurnedPart::RotZ, -3},
-    {103, &TurnedPart::RotX, 0},  {104, &TurnedPart::RotY, 0},  {105, &TurnedPart::RotZ, 0},
+    {kNumberPad0, &TurnedPart::RotX, 0},      {kNumberPad0, &TurnedPart::RotY, 0},
+    {kNumberPad0, &TurnedPart::RotZ, 0},      {kNumberPad0 + 1, &TurnedPart::RotX, 3},
+    {kNumberPad0 + 2, &TurnedPart::RotY, 3},  {kNumberPad0 + 3, &TurnedPart::RotZ, 3},
+    {kNumberPad0 + 4, &TurnedPart::RotX, -3}, {kNumberPad0 + 5, &TurnedPart::RotY, -3},
+    {kNumberPad0 + 6, &TurnedPart::RotZ, -3}, {kNumberPad0 + 7, &TurnedPart::RotX, 0},
+    {kNumberPad0 + 8, &TurnedPart::RotY, 0},  {kNumberPad0 + 9, &TurnedPart::RotZ, 0},
 };
 
 // The pace of the spin on every machine that can keep it, and of most screens.
@@ -140,22 +138,22 @@ void TurnedPartWindow::Spin() {
 
 void TurnedPartWindow::Form_KeyDown(int keyCode) {
   switch (keyCode) {
-    case kEscape:
+    case VirtualKeys::kEscape:
       close();
       return;
-    case kNumberPadPlus:
+    case VirtualKeys::kNumberPadPlus:
       Zoom(-1);
       return;
-    case kNumberPadMinus:
+    case VirtualKeys::kNumberPadMinus:
       Zoom(1);
       return;
-    case kF6:
+    case VirtualKeys::kF6:
       Spinning = kFalse;
       return;
-    case kF5:
+    case VirtualKeys::kF5:
       Spin();
       break;
-    case kX:
+    case 'X':
       part_.ShowAxes = static_cast<std::int16_t>(~part_.ShowAxes);
       break;
     default:

@@ -2,6 +2,8 @@
 
 #include <span>
 
+#include "platform/virtual_keys.h"
+
 namespace {
 
 // Keys from `first` to `last` have the codes from `code` on.
@@ -12,22 +14,22 @@ struct KeyRange {
 };
 
 constexpr KeyRange kKeyRanges[] = {
-    {Qt::Key_Return, Qt::Key_Return, 13},
-    {Qt::Key_Enter, Qt::Key_Enter, 13},
-    {Qt::Key_Escape, Qt::Key_Escape, 27},
-    {Qt::Key_Space, Qt::Key_Space, 32},
-    {Qt::Key_Right, Qt::Key_Right, 39},
-    {Qt::Key_0, Qt::Key_9, 48},
-    {Qt::Key_A, Qt::Key_Z, 65},
-    {Qt::Key_F1, Qt::Key_F12, 112},
-    {Qt::Key_BracketLeft, Qt::Key_BracketLeft, 219},
+    {Qt::Key_Return, Qt::Key_Return, VirtualKeys::kEnter},
+    {Qt::Key_Enter, Qt::Key_Enter, VirtualKeys::kEnter},
+    {Qt::Key_Escape, Qt::Key_Escape, VirtualKeys::kEscape},
+    {Qt::Key_Space, Qt::Key_Space, VirtualKeys::kSpaceBar},
+    {Qt::Key_Right, Qt::Key_Right, VirtualKeys::kRightArrow},
+    {Qt::Key_0, Qt::Key_9, '0'},
+    {Qt::Key_A, Qt::Key_Z, 'A'},
+    {Qt::Key_F1, Qt::Key_F12, VirtualKeys::kF1},
+    {Qt::Key_BracketLeft, Qt::Key_BracketLeft, VirtualKeys::kBracket},
     // The same key with Shift, on a common layout.
-    {Qt::Key_BraceLeft, Qt::Key_BraceLeft, 219},
+    {Qt::Key_BraceLeft, Qt::Key_BraceLeft, VirtualKeys::kBracket},
 };
 constexpr KeyRange kNumberPadRanges[] = {
-    {Qt::Key_0, Qt::Key_9, 96},
-    {Qt::Key_Plus, Qt::Key_Plus, 107},
-    {Qt::Key_Minus, Qt::Key_Minus, 109},
+    {Qt::Key_0, Qt::Key_9, VirtualKeys::kNumberPad0},
+    {Qt::Key_Plus, Qt::Key_Plus, VirtualKeys::kNumberPadPlus},
+    {Qt::Key_Minus, Qt::Key_Minus, VirtualKeys::kNumberPadMinus},
 };
 
 // 0 when the key is in none of the ranges.

@@ -15,10 +15,9 @@
 #include "platform/qt/views/document_text.h"
 #include "platform/qt/views/key_codes.h"
 #include "platform/text.h"
+#include "platform/virtual_keys.h"
 
 namespace {
-
-constexpr std::int16_t kEnter = 13;
 
 void SetBackground(QTextEdit& editor, Colour background) {
   QPalette palette = editor.palette();
@@ -176,7 +175,7 @@ void QtRichText::keyPressEvent(QKeyEvent* event) {
   if (isCommand && HasCharacter(*event)) {
     event->ignore();
   } else if (!isControl && !isCommand && IsEnter(*event)) {
-    TypeByte(kEnter);
+    TypeByte(VirtualKeys::kEnter);
   } else if (!isControl && HasCharacter(*event)) {
     Type(event->text());
   } else {
@@ -395,7 +394,7 @@ void QtRichText::TypeByte(std::int16_t character) {
   if (Keys.KeyPress) Keys.KeyPress(character);
   if (Locked || character <= 0 || character > 255) return;
   const char byte = static_cast<char>(static_cast<unsigned char>(character));
-  const bool isLineEnd = character == kEnter;
+  const bool isLineEnd = character == VirtualKeys::kEnter;
   // A word is undone as a whole, whatever its colours.
   const bool startsWord = isLineEnd || byte == ' ' || textCursor().hasSelection();
   const bool continues = typedEnd_ == textCursor().position() && !startsWord;

@@ -16,7 +16,7 @@
 struct EditorKeys {
   // A key code set to 0 swallows the key.
   std::function<void(std::int16_t& keyCode, std::int16_t& shift)> KeyDown;
-  // The byte about to be typed; 13 stands for a line end, and 0 types nothing.
+  // The byte about to be typed; that of Enter stands for a line end, and 0 types nothing.
   std::function<void(std::int16_t& character)> KeyPress;
   // Once for each key, however long it was held.
   std::function<void(std::int16_t keyCode, std::int16_t shift)> KeyUp;
