@@ -14,6 +14,7 @@
 #include "motion/stock.h"
 #include "platform/code_page.h"
 #include "platform/numbers.h"
+#include "platform/qt/host/raster_image.h"
 #include "platform/windowless/windowless.h"
 
 namespace {
@@ -81,18 +82,9 @@ QJsonObject PanelsJson() {
   return object;
 }
 
+// Three bytes a pixel: red, green and blue.
 QImage ToImage(const Raster& surface) {
-  QImage image(surface.Width(), surface.Height(), QImage::Format_RGB888);
-  for (int y = 0; y < surface.Height(); ++y) {
-    uchar* bytes = image.scanLine(y);
-    for (int x = 0; x < surface.Width(); ++x) {
-      const Colour colour = surface.Row(y)[x];
-      *bytes++ = RedOf(colour);
-      *bytes++ = GreenOf(colour);
-      *bytes++ = BlueOf(colour);
-    }
-  }
-  return image;
+  return ToQImage(surface).convertToFormat(QImage::Format_RGB888);
 }
 
 QString SurfaceHash(const Raster& surface) {

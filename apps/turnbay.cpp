@@ -31,10 +31,9 @@ int main(int argc, char** argv) {
   // Under Wayland the icon comes from the desktop entry.
   QApplication::setDesktopFileName("turnbay");
   if (!UseUsersApplicationFolder()) {
-    Desktop::MessageBox(
+    Desktop::ShowError(
         "Your home folder can't take the tools and samples. Those of the installation are used, "
-        "and no change of the tool list can be saved. Make room, and start again.",
-        Desktop::kCritical, "Error!");
+        "and no change of the tool list can be saved. Make room, and start again.");
   }
   // Later, since a setting may be written in the midst of a command.
   WatchSettingsTrouble([](const std::string& reason) {

@@ -13,7 +13,6 @@
 #include "apps/play_report.h"
 #include "apps/turned_part_picture.h"
 #include "debugger/run_commands.h"
-#include "editor/colouring.h"
 #include "editor/program_file.h"
 #include "editor/reformat.h"
 #include "editor/source_place.h"
@@ -69,13 +68,9 @@ void StartUp(const PlayOptions& options) {
 
 bool LoadProgram(const std::string& path) {
   std::string reason;
-  if (!frmMain::LoadFile(path, reason)) {
-    SayTrouble(reason);
-    return false;
-  }
-  frmMain::ColourText();
-  frmMain::EnableCommands("Start,Print,Step", true);
-  return true;
+  if (frmMain::LoadProgram(path, reason)) return true;
+  SayTrouble(reason);
+  return false;
 }
 
 void ResumeRun() {

@@ -17,7 +17,6 @@ using GlobalVariables::Settings;
 
 namespace {
 
-constexpr Colour kMarkColumnColour = Rgb(240, 240, 240);
 constexpr std::uint8_t kCentred = 4;
 // The view follows the executing row in jumps of so many rows.
 constexpr int kScrollStep = 10;

@@ -20,7 +20,6 @@ std::int16_t EditRow;
 
 namespace {
 
-constexpr double kTwipsPerPixel = 15;
 // Gap between the edit box and the grid's right edge, in pixels.
 constexpr double kRightMargin = 4;
 
@@ -55,14 +54,18 @@ void RewriteEditorDuringRun() {
   SaveWasEnabled = kTrue;
 }
 
+double Pixels(int twips) {
+  return static_cast<double>(twips) / kTwipsPerPixel;
+}
+
 // Places txtDebug over the current cell.
 void PlaceEditBox() {
   const ControlBounds& grid = DebugWindow.Bounds;
-  const double left = DebugWindow.CellLeft() / kTwipsPerPixel;
+  const double left = Pixels(DebugWindow.CellLeft());
   txtDebug.Bounds = {.Left = left,
-                     .Top = grid.Top + DebugWindow.CellTop() / kTwipsPerPixel,
+                     .Top = grid.Top + Pixels(DebugWindow.CellTop()),
                      .Width = grid.Width - left - kRightMargin,
-                     .Height = Settings.DebugRowHeight / kTwipsPerPixel};
+                     .Height = Pixels(Settings.DebugRowHeight)};
 }
 
 bool EditChangesRow() {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <string>
+#include <utility>
 
 #include "mainwindow/control_surface.h"
 #include "platform/host/desktop.h"
@@ -80,6 +81,13 @@ void ColourText() {
   TextEditor().SetTextRTF(buffer.TextRTF());
   TextEditor().BackColor = Settings.EditorBackColor;
   EnableCommands("Save", false);
+}
+
+void RecolourText(std::string text) {
+  const bool saveWasEnabled = Toolbar.Buttons("Save").Enabled;
+  TextBuffer().SetText(std::move(text));
+  ColourText();
+  EnableCommands("Save", saveWasEnabled);
 }
 
 }  // namespace frmMain

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <string>
 
 namespace frmMain {
 
@@ -12,5 +13,8 @@ inline constexpr std::size_t kMaxColouredLength = 32'766;
 // box, and the editor keeps what it had; no result tells, so whoever must know asks before.
 // Reads: Settings. Writes: TextBuffer, TextEditor, "Save".
 void ColourText();
+
+// Gives the editor this text in colours. "Save" stays as it is.
+void RecolourText(std::string text);
 
 }  // namespace frmMain

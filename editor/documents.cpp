@@ -5,7 +5,6 @@
 
 #include "debugger/debug_grid.h"
 #include "debugger/row_edit.h"
-#include "editor/colouring.h"
 #include "editor/program_file.h"
 #include "editor/recent_files.h"
 #include "interpreter/machine.h"
@@ -17,15 +16,10 @@ namespace frmMain {
 
 namespace {
 
-constexpr const char* kErrorTitle = "Error!";
 constexpr const char* kFilter = "CNC Code Files|*.cnc|All Files|*.*";
 
 // Of the document's file; empty for a document without one.
 std::string documentPath;
-
-void ShowError(const std::string& reason) {
-  Desktop::MessageBox(reason, Desktop::kCritical, kErrorTitle);
-}
 
 bool IsModified() {
   return Toolbar.Buttons("Save").Enabled;
@@ -61,22 +55,21 @@ void NameDocument(const std::string& path) {
   StatusBar.Panels("FileName").Text = GetFileName(path);
 }
 
-void FillRows() {
-  FillDebugWindow();
-  TextChanged = kFalse;
-}
+// In place of the index of a file in the recent list: it was chosen elsewhere.
+constexpr std::int16_t kNotInList = -1;
 
-void ShowProgram(const std::string& path) {
+// Makes the file the document.
+void ShowProgram(const std::string& path, std::int16_t index) {
   std::string reason;
-  if (!LoadFile(path, reason)) {
-    ShowError(reason);
+  if (!LoadProgram(path, reason)) {
+    Desktop::MessageBox(reason, Desktop::kCritical,
+                        index == kNotInList ? Desktop::kErrorTitle : "");
     return;
   }
-  ColourText();
-  EnableCommands("Start,Print,Step", true);
   NameDocument(path);
-  UpdateRecentFiles(path, -1);
-  FillRows();
+  UpdateRecentFiles(path, index);
+  FillDebugWindow();
+  TextChanged = kFalse;
 }
 
 }  // namespace
@@ -97,27 +90,16 @@ void mnuFileNew_Click() {
 void mnuFileOpen_Click() {
   if (!MayDropDocument()) return;
   PrepareFileDialog();
-  if (com.ShowOpen()) ShowProgram(com.FileName);
+  if (com.ShowOpen()) ShowProgram(com.FileName, kNotInList);
 }
 
 void OpenProgram(const std::string& path) {
-  if (MayDropDocument()) ShowProgram(path);
+  if (MayDropDocument()) ShowProgram(path, kNotInList);
 }
 
 void mnuFileRecentFiles_Click(std::int16_t index) {
   if (!MayDropDocument()) return;
-  const std::string path = RecentFilePath(index);
-  std::string reason;
-  if (!LoadFile(path, reason)) {
-    Desktop::MessageBox(reason, Desktop::kCritical);
-    return;
-  }
-  ColourText();
-  NameDocument(path);
-  EnableCommands("Start,Print,Step", true);
-  EnableCommands("Save", false);
-  UpdateRecentFiles(mnuFileRecentFiles.at(static_cast<std::size_t>(index)).Caption, index);
-  FillRows();
+  ShowProgram(RecentFilePath(index), index);
 }
 
 void mnuFileSave_Click() {
@@ -129,13 +111,14 @@ void mnuFileSave_Click() {
   const std::string path = RecentFilePath(0);
   // A second window that has opened another file shares the list; its file must not be hit.
   if (path != documentPath) {
-    ShowError("The list of recent files no longer begins with \"" + DocumentName() +
-              "\"; another Turnbay may have opened a program. Choose Save As to name the file.");
+    Desktop::ShowError(
+        "The list of recent files no longer begins with \"" + DocumentName() +
+        "\"; another Turnbay may have opened a program. Choose Save As to name the file.");
     return;
   }
   std::string reason;
   if (!SaveFile(path, reason)) {
-    ShowError(reason);
+    Desktop::ShowError(reason);
     return;
   }
   EnableCommands("Save", false);
@@ -152,7 +135,7 @@ void mnuFileSaveAS_Click() {
   if (!SaveFile(com.FileName, reason)) return;
   EnableCommands("Save", false);
   NameDocument(com.FileName);
-  UpdateRecentFiles(com.FileName, -1);
+  UpdateRecentFiles(com.FileName, kNotInList);
 }
 
 void mnuFileExit_Click() {

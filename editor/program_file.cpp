@@ -51,6 +51,13 @@ bool LoadFile(const std::string& path, std::string& reason) {
   return true;
 }
 
+bool LoadProgram(const std::string& path, std::string& reason) {
+  if (!LoadFile(path, reason)) return false;
+  ColourText();
+  EnableCommands("Start,Print,Step", true);
+  return true;
+}
+
 bool SaveFile(const std::string& path, std::string& reason) {
   const std::string& text = TextEditor().Text();
   return ReplaceFile(path, DocumentIsUtf8 ? CodePageToUtf8(text) : text, reason);

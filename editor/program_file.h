@@ -17,6 +17,9 @@ extern bool DocumentIsUtf8;
 // changed.
 bool LoadFile(const std::string& path, std::string& reason);
 
+// As LoadFile, and brings the program to the editor, coloured and saved, with its commands open.
+bool LoadProgram(const std::string& path, std::string& reason);
+
 // Writes the editor's text. When that fails, the result is false, `reason` says why, and the old
 // file is whole.
 bool SaveFile(const std::string& path, std::string& reason);

@@ -7,7 +7,6 @@
 
 #include "debugger/row_edit.h"
 #include "editor/colouring.h"
-#include "interpreter/machine.h"
 #include "mainwindow/control_surface.h"
 #include "platform/text.h"
 
@@ -53,10 +52,7 @@ std::string CanonicalText(std::string_view text) {
 }  // namespace
 
 void ReformatText(RichText& editor) {
-  TextBuffer().SetText(CanonicalText(editor.Text()));
-  SaveWasEnabled = Toolbar.Buttons("Save").Enabled ? kTrue : kFalse;
-  ColourText();
-  EnableCommands("Save", SaveWasEnabled != kFalse);
+  RecolourText(CanonicalText(editor.Text()));
 }
 
 void mnuToolsReformatText_Click() {

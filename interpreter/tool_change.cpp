@@ -71,9 +71,8 @@ void ChangeTool() {
   std::string reason;
   const auto name = BitmapName(reason);
   if (name && LoadBitmap(*name, reason)) return;
-  Desktop::MessageBox("Tool " + DecimalText(ToolNumber) +
-                          " can't be loaded, so the tool stays as it was. " + reason,
-                      Desktop::kCritical, "Error!");
+  Desktop::ShowError("Tool " + DecimalText(ToolNumber) +
+                     " can't be loaded, so the tool stays as it was. " + reason);
 }
 
 }  // namespace ModCNC

@@ -86,11 +86,10 @@ extern std::string Tag;
 // the logic to move it.
 extern Property<std::string_view> ActiveControl;
 
-// Columns of DebugWindow.
-inline constexpr int kLineNumberColumn = 0;
-inline constexpr int kMarkColumn = 1;
-inline constexpr int kTextColumn = 2;
-inline constexpr int kBreakColumn = 3;
+using ::kBreakColumn;
+using ::kLineNumberColumn;
+using ::kMarkColumn;
+using ::kTextColumn;
 // What the break column of a row with a break point holds; else it is empty.
 inline constexpr std::string_view kBreakPoint = "BP";
 

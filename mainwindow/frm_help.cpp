@@ -93,7 +93,7 @@ QPointer<HelpWindow> frmHelpWindow;
 void ShowManual() {
   std::string reason;
   if (!ReadFile(ManualPath(), reason)) {
-    Desktop::MessageBox(reason, Desktop::kCritical, "Error!");
+    Desktop::ShowError(reason);
     return;
   }
   if (frmHelpWindow == nullptr) frmHelpWindow = new HelpWindow;

@@ -24,6 +24,7 @@
 #include "mainwindow/layout.h"
 #include "mainwindow/start_up.h"
 #include "motion/stock.h"
+#include "platform/host/desktop.h"
 #include "platform/qt/views/grid_view.h"
 #include "platform/qt/views/key_codes.h"
 #include "platform/qt/views/qt_rich_text.h"
@@ -32,8 +33,6 @@
 namespace frmMain {
 
 namespace {
-
-constexpr const char* kCaption = "Orvane's Turnbay";
 
 void Place(QWidget& widget, const ControlBounds& bounds) {
   // By its edges, so that neighbours meet.
@@ -55,7 +54,7 @@ QString DraggedFile(const QMimeData& data) {
 
 Window::Window() : form_(new QWidget) {
   setObjectName("frmMain");
-  setWindowTitle(kCaption);
+  setWindowTitle(Desktop::kProgramTitle);
   setAcceptDrops(true);
   setCentralWidget(form_);
   form_->installEventFilter(this);

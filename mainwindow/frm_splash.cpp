@@ -5,6 +5,7 @@
 #include <QScreen>
 
 #include "mainwindow/fading_window.h"
+#include "platform/host/desktop.h"
 #include "platform/host/notifications.h"
 
 namespace {
@@ -19,7 +20,7 @@ constexpr QColor kVersionColour(0xC9, 0xD3, 0xDE);
 class SplashWindow : public FadingWindow {
  public:
   SplashWindow() : FadingWindow("frmSplash", Qt::Dialog, kSize) {
-    setWindowTitle("Orvane's Turnbay");
+    setWindowTitle(Desktop::kProgramTitle);
     const QRect screenArea = screen()->geometry();
     move(screenArea.center() - rect().center());
   }

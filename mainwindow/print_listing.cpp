@@ -56,7 +56,7 @@ void mnuFilePrint_Click() {
   const std::string file = printer.outputFileName().toStdString();
   const bool printed =
       file.empty() ? PrintListing(listing, printer) : PrintToFile(listing, printer, file);
-  if (!printed) Desktop::MessageBox(Failure(file), Desktop::kCritical, "Error!");
+  if (!printed) Desktop::ShowError(Failure(file));
 }
 
 }  // namespace frmMain

@@ -93,12 +93,9 @@ void ApplySettings() {
 }
 
 void ApplyOptions() {
-  const bool saveWasEnabled = Toolbar.Buttons("Save").Enabled;
-  TextBuffer().SetText(TextEditor().Text());
-  ColourText();
+  RecolourText(TextEditor().Text());
   // Without a text the colouring has nothing to bring the font to.
   if (TextEditor().Text().empty()) ApplyEditorFont();
-  EnableCommands("Save", saveWasEnabled);
   Graphics::CreateSurface();
   picSim.BackColor = GlobalVariables::Settings.SimBackColor;
   // The old picture goes from the screen even when the colour stays.

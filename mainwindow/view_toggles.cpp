@@ -36,14 +36,6 @@ bool BothPanesAreVisible() {
   return TextEditor().Visible && DebugWindow.Visible;
 }
 
-// The editor comes back freshly coloured, and "Save" as it was.
-void ColourEditor() {
-  const bool saveWasEnabled = Toolbar.Buttons("Save").Enabled;
-  TextBuffer().SetText(TextEditor().Text());
-  ColourText();
-  EnableCommands("Save", saveWasEnabled);
-}
-
 }  // namespace
 
 void mnuViewToolBar_Click() {
@@ -65,7 +57,7 @@ void mnuViewTextEditor_Click() {
   ResizeControls();
   StoreMark("ViewOptions", "TextEditor", mnuViewTextEditor);
   StoreMark("ViewOptions", "DebugWindow", mnuViewDebugWindow);
-  if (TextEditor().Visible) ColourEditor();
+  if (TextEditor().Visible) RecolourText(TextEditor().Text());
 }
 
 void mnuViewDebugWindow_Click() {

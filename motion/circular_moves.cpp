@@ -118,7 +118,8 @@ void PlayArc(Turn turn) {
   Arc arc = ArcToTarget();
   const auto centre = FindCentre(arc, radius, turn);
   if (!centre) {
-    Desktop::MessageBox("Value of Radius is too small to draw", Desktop::kInformation, "Error!");
+    Desktop::MessageBox("Value of Radius is too small to draw", Desktop::kInformation,
+                        Desktop::kErrorTitle);
     return;
   }
   FillPath(arc, *centre, radius, turn);

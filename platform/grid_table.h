@@ -38,6 +38,15 @@ struct GridChange {
   int Last = 0;
 };
 
+inline constexpr int kTwipsPerPixel = 15;
+
+// The columns of a listing of a program, in a grid.
+inline constexpr int kLineNumberColumn = 0;
+inline constexpr int kMarkColumn = 1;
+inline constexpr int kTextColumn = 2;
+inline constexpr int kBreakColumn = 3;
+inline constexpr Colour kMarkColumnColour = Rgb(240, 240, 240);
+
 // The table behind a grid control: four columns of text, rows numbered from 0. Widths, heights and
 // cell places are twips.
 class GridTable : public Control {

@@ -53,11 +53,6 @@ constexpr SampleRow kRows[] = {
 };
 constexpr int kRowCount = static_cast<int>(std::size(kRows)) + 1;
 
-constexpr int kNumberColumn = 0;
-constexpr int kMarkColumn = 1;
-constexpr int kTextColumn = 2;
-constexpr int kHiddenColumn = 3;
-constexpr Colour kMarkColumnColour = Rgb(240, 240, 240);
 constexpr std::uint8_t kCentred = 4;
 // Twips.
 constexpr int kHeadHeight = 75;
@@ -70,7 +65,7 @@ constexpr int kNumbersSmaller = 2;
 DebugPage::DebugPage(SettingsRecord& working) : working_(working) {
   sample_.SetRows(kRowCount);
   sample_.SetFontName("Tahoma");
-  sample_.SetColWidth(kHiddenColumn, 0);
+  sample_.SetColWidth(kBreakColumn, 0);
   auto* layout = MakeLayout<QVBoxLayout>(this);
   layout->addWidget(MakeFontFrame());
   layout->addWidget(MakeFormatFrame());
@@ -155,7 +150,7 @@ void DebugPage::LoadSample() {
   sample_.SetRowHeight(0, kHeadHeight);
   for (int row = 1; row < kRowCount; ++row) {
     const SampleRow& sample = kRows[row - 1];
-    sample_.SetTextMatrix(row, kNumberColumn, sample.number);
+    sample_.SetTextMatrix(row, kLineNumberColumn, sample.number);
     sample_.SetTextMatrix(row, kTextColumn, sample.text);
     sample_.SetRowHeight(row, working_.DebugRowHeight);
     sample_.Select(row, kMarkColumn);
@@ -167,7 +162,7 @@ void DebugPage::LoadSample() {
 void DebugPage::TakeOptions() {
   working_.DebugFontName = cmbDebugFonts_->currentText().toStdString();
   working_.DebugFontSize = ChosenSize(*cmbDebugFontSize_);
-  working_.DebugC0Width = ClipToInt16(sample_.ColWidth(kNumberColumn));
+  working_.DebugC0Width = ClipToInt16(sample_.ColWidth(kLineNumberColumn));
   working_.DebugC1Width = ClipToInt16(sample_.ColWidth(kMarkColumn));
   working_.DebugC2Width = ClipToInt16(sample_.ColWidth(kTextColumn));
   boxes_.TakeInto(working_);
@@ -196,10 +191,10 @@ void DebugPage::FormatSample() {
   const auto numberSize =
       static_cast<std::int16_t>(size > kSmallText ? size - kNumbersSmaller : size);
   for (int row = 1; row < kRowCount; ++row) {
-    for (int column = kNumberColumn; column <= kTextColumn; ++column) {
+    for (int column = kLineNumberColumn; column <= kTextColumn; ++column) {
       sample_.Select(row, column);
       sample_.SetCellFontName(cmbDebugFonts_->currentText().toStdString());
-      sample_.SetCellFontSize(column == kNumberColumn ? numberSize : size);
+      sample_.SetCellFontSize(column == kLineNumberColumn ? numberSize : size);
     }
   }
 }
@@ -210,7 +205,7 @@ void DebugPage::ShowGridLines() {
 
 void DebugPage::ShowLineNumbers() {
   const bool areShown = boxes_.Of(&SettingsRecord::DebugLineNumbers)->isChecked();
-  sample_.SetColWidth(kNumberColumn, areShown ? working_.DebugC0Width : 0);
+  sample_.SetColWidth(kLineNumberColumn, areShown ? working_.DebugC0Width : 0);
 }
 
 // All rows get the height of the one under the pointer.

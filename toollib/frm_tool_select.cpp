@@ -17,6 +17,7 @@
 #include "platform/host/pictures.h"
 #include "platform/qt/host/dialog_owner.h"
 #include "platform/qt/host/paths.h"
+#include "platform/qt/host/raster_image.h"
 #include "platform/qt/views/colours.h"
 #include "platform/qt/views/picture_strip.h"
 #include "settings/settings.h"
@@ -91,14 +92,9 @@ QStringList BitmapNames() {
 
 // As the simulation shows it: without its background.
 QPixmap ToPixmap(const Raster& raster) {
-  QImage image(raster.Width(), raster.Height(), QImage::Format_ARGB32);
-  for (int y = 0; y < raster.Height(); ++y) {
-    auto* to = reinterpret_cast<QRgb*>(image.scanLine(y));
-    for (int x = 0; x < raster.Width(); ++x) {
-      const Colour colour = raster.Row(y)[x];
-      to[x] = colour == kTransparent ? 0 : ToQColor(colour).rgba();
-    }
-  }
+  QImage image = ToQImage(raster);
+  const QRgb background = ToQColor(kTransparent).rgb();
+  image.setAlphaChannel(image.createMaskFromColor(background, Qt::MaskOutColor));
   return QPixmap::fromImage(image);
 }
 
@@ -261,7 +257,7 @@ void ToolLibraryDialog::ShowToolDetails(const std::string& path) {
     // A key that the file doesn't hold leaves what the last tool had.
     if (value) SetText(*values_[i], QString::fromStdString(*value));
   }
-  if (!picture) Desktop::MessageBox(reason, Desktop::kCritical, "Error!");
+  if (!picture) Desktop::ShowError(reason);
 }
 
 void ToolLibraryDialog::cmdAssign_Click() {
@@ -277,7 +273,7 @@ void ToolLibraryDialog::cmdClose_Click() {
   if (WriteToolList(reason)) {
     accept();
   } else {
-    Desktop::MessageBox(reason, Desktop::kCritical, "Error!");
+    Desktop::ShowError(reason);
   }
 }
 

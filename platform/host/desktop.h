@@ -6,6 +6,8 @@
 // windowless player, or the scripted desktop of the tests.
 namespace Desktop {
 
+inline constexpr const char* kProgramTitle = "Orvane's Turnbay";
+
 // Handles every event that is waiting, each to its end, then returns. Handlers run inside the
 // call: whatever was read before it may have changed after it.
 void Yield();
@@ -32,6 +34,12 @@ constexpr int kNo = 7;
 // Shows a text (UTF-8) modally and returns the button chosen. An empty title stands for the
 // program's own.
 int MessageBox(const std::string& text, int style = kOkOnly, const std::string& title = "");
+
+inline constexpr const char* kErrorTitle = "Error!";
+// Shows why something failed.
+inline void ShowError(const std::string& reason) {
+  MessageBox(reason, kCritical, kErrorTitle);
+}
 
 // Puts key strokes into the queue of the control that has the focus: the characters of `keys`, or
 // the right arrow for kRightArrowKeys. They arrive at a later yield.

@@ -5,8 +5,6 @@
 
 namespace {
 
-constexpr const char* kProgramTitle = "Orvane's Turnbay";
-
 struct IconStyle {
   int style;
   QMessageBox::Icon icon;

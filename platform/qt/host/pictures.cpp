@@ -6,6 +6,7 @@
 
 #include "platform/host/files.h"
 #include "platform/qt/host/paths.h"
+#include "platform/qt/host/raster_image.h"
 
 namespace {
 
@@ -19,20 +20,6 @@ bool IsTooLarge(const QSize& size) {
     return side > kMaxPictureSide || -side > kMaxPictureSide;
   };
   return isTooLong(size.width()) || isTooLong(size.height());
-}
-
-Raster ToRaster(const QImage& image) {
-  Raster raster(image.width(), image.height());
-  for (int y = 0; y < image.height(); ++y) {
-    for (int x = 0; x < image.width(); ++x) {
-      const QRgb pixel = image.pixel(x, y);
-      raster.SetPixel(
-          x, y,
-          Rgb(static_cast<std::uint32_t>(qRed(pixel)), static_cast<std::uint32_t>(qGreen(pixel)),
-              static_cast<std::uint32_t>(qBlue(pixel))));
-    }
-  }
-  return raster;
 }
 
 }  // namespace

@@ -8,12 +8,10 @@
 namespace {
 
 constexpr int kFirstRow = 1;
-// Columns behind it are hidden.
-constexpr int kTextColumn = 2;
 // Pixels on both sides of a border from which it can be dragged.
 constexpr int kReach = 3;
 // Twips: what can still be taken hold of, and what a setting can hold.
-constexpr int kSmallest = 4 * GridView::kTwipsPerPixel;
+constexpr int kSmallest = 4 * kTwipsPerPixel;
 constexpr int kLargest = 32'767;
 
 }  // namespace
@@ -43,6 +41,7 @@ std::optional<GridBorders::Border> GridBorders::BorderAt(const QPoint& place) co
     const int border = view_.rowViewportPosition(row) + view_.rowHeight(row);
     if (std::abs(cells.y() - border) <= kReach) return Border{Qt::Vertical, row};
   }
+  // The columns behind it are hidden.
   for (int column = 0; column <= kTextColumn; ++column) {
     const bool isFixed = column == 0;
     const int border =
@@ -76,8 +75,8 @@ bool GridBorders::HandleMouse(QWidget& widget, QEvent& event) {
   const QPoint place = widget.mapTo(&view_, mouse.position().toPoint());
   if (dragged_ && event.type() == QEvent::MouseMove) {
     const QPoint way = place - dragStart_;
-    Resize(*dragged_, sizeAtStart_ + (dragged_->moves == Qt::Vertical ? way.y() : way.x()) *
-                                         GridView::kTwipsPerPixel);
+    Resize(*dragged_,
+           sizeAtStart_ + (dragged_->moves == Qt::Vertical ? way.y() : way.x()) * kTwipsPerPixel);
     return true;
   }
   if (event.type() == QEvent::MouseButtonRelease) {
@@ -100,8 +99,7 @@ bool GridBorders::HandleMouse(QWidget& widget, QEvent& event) {
 bool GridBorders::HandleKey(int key) {
   const bool isRow = key == Qt::Key_Up || key == Qt::Key_Down;
   const bool isColumn = key == Qt::Key_Left || key == Qt::Key_Right;
-  const int step =
-      (key == Qt::Key_Down || key == Qt::Key_Right ? 1 : -1) * GridView::kTwipsPerPixel;
+  const int step = (key == Qt::Key_Down || key == Qt::Key_Right ? 1 : -1) * kTwipsPerPixel;
   if (isColumn) Resize({Qt::Horizontal, kTextColumn}, table_.ColWidth(kTextColumn) + step);
   for (int row = kFirstRow; isRow && row < table_.Rows(); ++row) {
     Resize({Qt::Vertical, row}, table_.RowHeight(row) + step);

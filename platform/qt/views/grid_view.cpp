@@ -23,7 +23,7 @@ constexpr QSize kPictureSize(19, 18);
 constexpr int kTextMargin = 2;
 
 int Pixels(int twips) {
-  return std::max(twips / GridView::kTwipsPerPixel, 0);
+  return std::max(twips / kTwipsPerPixel, 0);
 }
 
 QFont FontOf(const GridTable& table, int row, int column, QFont font) {
@@ -239,11 +239,11 @@ void GridView::FollowTable(const GridChange& change) {
 }
 
 void GridView::ApplyLayout() {
-  const int numbersWidth = Pixels(table_.ColWidth(0));
+  const int numbersWidth = Pixels(table_.ColWidth(kLineNumberColumn));
   verticalHeader()->setFixedWidth(numbersWidth);
   verticalHeader()->setVisible(numbersWidth > 0);
-  setColumnHidden(0, true);
-  for (int column = 1; column < GridTable::kColumns; ++column) {
+  setColumnHidden(kLineNumberColumn, true);
+  for (int column = kMarkColumn; column < GridTable::kColumns; ++column) {
     const int width = Pixels(table_.ColWidth(column));
     setColumnHidden(column, width == 0);
     if (width > 0) setColumnWidth(column, width);

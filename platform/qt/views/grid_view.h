@@ -7,13 +7,11 @@
 
 class GridModel;
 
-// Shows a grid table without a copy of it, at 15 twips to the pixel. The first column is fixed at
-// the left and the last, the break flag's, is usually of no width. Takes the table's watcher and
+// Shows a grid table without a copy of it, kTwipsPerPixel to the pixel. The first column is fixed
+// at the left and the last, the break flag's, is usually of no width. Takes the table's watcher and
 // those of TopRow and ToolTipText; whoever lays the window out watches Visible and Bounds.
 class GridView : public QTableView {
  public:
-  static constexpr int kTwipsPerPixel = 15;
-
   // The marks are Break.png, Step.png and Both.png in a folder of files or resources.
   GridView(GridTable& table, const QString& pictureFolder, QWidget* parent = nullptr);
   ~GridView() override;

@@ -3,14 +3,10 @@
 #include <QPaintEvent>
 #include <QPainter>
 
+#include "platform/qt/host/raster_image.h"
 #include "platform/qt/views/colours.h"
 
 namespace {
-
-// 0x00BBGGRR to 0xFFRRGGBB.
-QRgb ToScreen(Colour colour) {
-  return 0xFF000000 | (colour & 0xFF) << 16 | (colour & 0xFF00) | (colour >> 16 & 0xFF);
-}
 
 bool IsWhole(qreal scale) {
   return scale == qreal(qRound(scale));
@@ -45,11 +41,7 @@ void SurfaceView::Show(const Raster& surface, const PixelRect& changed) {
   }
   copied = Intersection(copied, surface.Area());
   if (copied.IsEmpty()) return;
-  for (int y = copied.top; y < copied.bottom; ++y) {
-    const Colour* from = surface.Row(y);
-    auto* to = reinterpret_cast<QRgb*>(picture_.scanLine(y));
-    for (int x = copied.left; x < copied.right; ++x) to[x] = ToScreen(from[x]);
-  }
+  CopyPixels(surface, copied, picture_);
   QRect shown(copied.left, copied.top, copied.right - copied.left, copied.bottom - copied.top);
   // Smoothing takes in the neighbours.
   if (!IsWhole(devicePixelRatioF())) shown.adjust(-1, -1, 1, 1);
