@@ -21,8 +21,8 @@ namespace {
 
 using GlobalVariables::RunOutcome;
 
-constexpr const char* kReportedPanels[] = {"FeedRate", "Dim", "SpindleSpeed", "SpindleDirection",
-                                           "Coolant"};
+constexpr frmMain::PanelKey kReportedPanels[] = {"FeedRate", "Dim", "SpindleSpeed",
+                                                 "SpindleDirection", "Coolant"};
 
 QString ToQt(const std::string& utf8) {
   return QString::fromStdString(utf8);
@@ -76,8 +76,8 @@ QJsonObject RegistersJson() {
 
 QJsonObject PanelsJson() {
   QJsonObject object;
-  for (const char* key : kReportedPanels) {
-    object[key] = ToQt(frmMain::StatusBar.Panels(key).Text);
+  for (const frmMain::PanelKey key : kReportedPanels) {
+    object[key.Name().data()] = ToQt(frmMain::StatusBar.Panels(key).Text);
   }
   return object;
 }

@@ -1,9 +1,7 @@
 #include "debugger/row_edit.h"
 
-#include <array>
 #include <limits>
 #include <string>
-#include <string_view>
 
 #include "debugger/debug_grid.h"
 #include "interpreter/machine.h"
@@ -23,10 +21,6 @@ namespace {
 // Gap between the edit box and the grid's right edge, in pixels.
 constexpr double kRightMargin = 4;
 
-// The commands that a change of the text may open or close.
-constexpr std::array<std::string_view, 6> kTextCommands = {"Save",  "Print", "Step",
-                                                           "Start", "Pause", "Stop"};
-
 std::string TextOfRows() {
   std::string text;
   for (int row = 0; row < DebugWindow.Rows(); ++row) {
@@ -45,12 +39,9 @@ void RewriteEditor() {
 
 // As RewriteEditor, but the commands stay those of the run, and the change can be saved after it.
 void RewriteEditorDuringRun() {
-  std::array<bool, kTextCommands.size()> states{};
-  for (std::size_t i = 0; i < states.size(); ++i) {
-    states[i] = Toolbar.Buttons(kTextCommands[i]).Enabled;
-  }
+  const CommandStates states = OpenCommands();
   RewriteEditor();
-  for (std::size_t i = 0; i < states.size(); ++i) EnableCommands(kTextCommands[i], states[i]);
+  RestoreCommands(states);
   SaveWasEnabled = kTrue;
 }
 

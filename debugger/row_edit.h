@@ -17,7 +17,7 @@ void DebugWindow_DblClick();
 void txtDebug_KeyUp(std::int16_t keyCode, std::int16_t shift);
 
 // Closes an open edit, and takes over what has been typed, as Enter does, so that it isn't lost.
-// Also for commands that read or replace the program or lay out its rows while the box may be open.
+// Commands come through Command, which calls this.
 void txtDebug_LostFocus();
 
 // Keeps an open edit over its row when the grid has been scrolled or resized.

@@ -1,7 +1,6 @@
 #include "debugger/run_commands.h"
 
 #include "debugger/debug_grid.h"
-#include "debugger/row_edit.h"
 #include "editor/reformat.h"
 #include "editor/syntax_check.h"
 #include "interpreter/machine.h"
@@ -41,7 +40,7 @@ void Resume() {
 
 void CloseCommandsForRun() {
   SaveWasEnabled = Toolbar.Buttons("Save").Enabled ? kTrue : kFalse;
-  EnableCommands("New,Open,Save,Print,Start,Step,Options", false);
+  EnableCommands(kCommandsClosedByRun, false);
   EnableMenus(false);
   TextEditor().Locked = true;
 }
@@ -73,7 +72,7 @@ void PlayProgram() {
   CloseCommandsForRun();
   Graphics::LoadTool(GlobalVariables::ToolFolder() + "tool.bmp", kDefaultToolWidth,
                      kDefaultToolHeight);
-  EnableCommands("Pause,Stop", true);
+  EnableCommands(kRunCommands, true);
   ShowRows();
   // The user may have pressed Stop, or closed the window, while the view changed.
   if (GlobalVariables::StopRequested == kFalse) PlayRows();
@@ -83,15 +82,14 @@ void PlayProgram() {
 
 void OpenCommandsAfterRun() {
   EnableCommands("Save", SaveWasEnabled != kFalse);
-  EnableCommands("New,Open,Print,Start,Step,Options", true);
-  EnableCommands("Pause,Stop", false);
+  EnableCommands(kCommandsOpenAfterRun, true);
+  EnableCommands(kRunCommands, false);
   EnableMenus(true);
   TextEditor().Locked = false;
 }
 
 // A run whose picture is wanted only at a break point is told so by `toBreakpoint`.
 void StartOrResume(bool toBreakpoint) {
-  txtDebug_LostFocus();
   if (IsRunPaused()) {
     Resume();
     return;

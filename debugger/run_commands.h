@@ -11,7 +11,7 @@ inline constexpr int kDefaultToolWidth = 67;
 inline constexpr int kDefaultToolHeight = 101;
 
 // Resumes a paused run, or plays the program from its first row to its end. A run is one long call.
-// A new run takes an open edit of a row over, reformats and checks the text, and shows itself:
+// A new run reformats and checks the text, and shows itself:
 // RunToBreakpoint is cleared. While a run is still leaving after a Stop nothing happens.
 // Yields, through the view toggle and RunProgram.
 void mnuRunStart_Click();

@@ -29,7 +29,8 @@ const std::string& DocumentName() {
   return StatusBar.Panels("FileName").Text;
 }
 
-// False when the operation that asks has to stop. What is typed over a row counts as a change.
+// False when the operation that asks has to stop. What is typed over a row counts as a change, also
+// for who comes by no command: a closed window, a dropped file.
 bool MayDropDocument() {
   txtDebug_LostFocus();
   if (!IsModified()) return true;
@@ -82,7 +83,7 @@ void mnuFileNew_Click() {
   if (!mnuViewTextEditor.Checked) mnuViewTextEditor_Click();
   documentPath.clear();
   StatusBar.Panels("FileName").Text = kUntitled;
-  EnableCommands("Save,Print,Start,Step,Pause,Stop", false);
+  EnableCommands(kProgramCommands, false);
   if (picSim.Cls) picSim.Cls();
   ActiveControl = "TextEditor";
 }
@@ -103,7 +104,6 @@ void mnuFileRecentFiles_Click(std::int16_t index) {
 }
 
 void mnuFileSave_Click() {
-  txtDebug_LostFocus();
   if (DocumentName() == kUntitled) {
     mnuFileSaveAS_Click();
     return;
@@ -126,7 +126,6 @@ void mnuFileSave_Click() {
 
 // Whatever fails here ends it silently: "Save" stays enabled, which the save question looks at.
 void mnuFileSaveAS_Click() {
-  txtDebug_LostFocus();
   PrepareFileDialog();
   // What is offered: the document's own name, whatever was opened in between.
   com.FileName = documentPath;

@@ -41,9 +41,9 @@ bool PicksIntegerColour(std::int16_t keyCode) {
 void TextEditor_Change() {
   TextChanged = kTrue;
   if (TextEditor().Text().empty()) {
-    EnableCommands("Save,Print,Step,Start,Pause,Stop", false);
+    EnableCommands(kProgramCommands, false);
   } else if (!Toolbar.Buttons("Save").Enabled) {
-    EnableCommands("Save,Print,Start,Step", true);
+    EnableCommands(kChangedProgramCommands, true);
   }
 }
 

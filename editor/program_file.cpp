@@ -54,7 +54,7 @@ bool LoadFile(const std::string& path, std::string& reason) {
 bool LoadProgram(const std::string& path, std::string& reason) {
   if (!LoadFile(path, reason)) return false;
   ColourText();
-  EnableCommands("Start,Print,Step", true);
+  EnableCommands(kLoadedProgramCommands, true);
   return true;
 }
 

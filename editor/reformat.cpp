@@ -5,7 +5,6 @@
 #include <string_view>
 #include <vector>
 
-#include "debugger/row_edit.h"
 #include "editor/colouring.h"
 #include "mainwindow/control_surface.h"
 #include "platform/text.h"
@@ -56,7 +55,6 @@ void ReformatText(RichText& editor) {
 }
 
 void mnuToolsReformatText_Click() {
-  txtDebug_LostFocus();
   ReformatText(TextEditor());
 }
 

@@ -81,7 +81,7 @@ void StartMachine() {
   Fakes::PutPicture("/app/tools/a.bmp", Raster(4, 4));
   frmMain::ResetToProgramStart();
   GlobalVariables::Settings = GlobalVariables::DefaultSettings();
-  frmMain::EnableCommands("Save,Print,Step,Start,Pause,Stop", false);
+  frmMain::EnableCommands(frmMain::kProgramCommands, false);
   // A window whose simulation area comes out as 90 by 10 pixels, so that the pictures cost less
   // than the program.
   frmMain::ScaleWidth = 117;

@@ -1,5 +1,6 @@
 #include "mainwindow/control_surface.h"
 
+#include <algorithm>
 #include <initializer_list>
 #include <string>
 
@@ -11,11 +12,9 @@ namespace frmMain {
 
 namespace {
 
-// Heights and widths in pixels.
+// Pixels.
 constexpr double kToolBarHeight = 38;
 constexpr double kStatusBarHeight = 25;
-constexpr std::array<double, kPanelKeys.size()> kPanelWidths = {96,  96, 30, 70, 40,
-                                                                106, 96, 96, 150};
 
 GridTable HiddenGrid() {
   GridTable grid;
@@ -32,17 +31,17 @@ std::array<RecentFileEntry, 4> NoRecentFiles() {
 
 }  // namespace
 
-ToolBar::ToolBar() : KeyedItems(kCommandKeys) {
+ToolBar::ToolBar() {
   Bounds = {.Height = kToolBarHeight};
   for (ToolButton& button : *this) button.Caption = std::string(button.Key);
 }
 
-StatusBarControl::StatusBarControl() : KeyedItems(kPanelKeys) {
+StatusBarControl::StatusBarControl() {
   Bounds = {.Height = kStatusBarHeight};
   double left = 0;
   for (std::size_t i = 0; StatusPanel & panel : *this) {
     panel.Left = left;
-    panel.Width = kPanelWidths[i++];
+    panel.Width = kPanels[i++].Width;
     left += panel.Width;
   }
 }
@@ -93,17 +92,6 @@ MemoryRichText memoryEditor;
 RichText* textEditor = &memoryEditor;
 void (*textEditorHandler)() = nullptr;
 
-struct CommandMenu {
-  std::string_view key;
-  MenuEntry* entry;
-};
-
-// The commands whose menu entry follows the button; the others move the button alone.
-constexpr CommandMenu kCommandMenus[] = {
-    {"Save", &mnuFileSave},  {"Print", &mnuFilePrint}, {"Start", &mnuRunStart},
-    {"Pause", &mnuRunPause}, {"Stop", &mnuRunStop},    {"Step", &mnuRunStepInto},
-};
-
 }  // namespace
 
 RichText& TextEditor() {
@@ -134,13 +122,30 @@ void SetTextEditor(RichText* body) {
   textEditor = &next;
 }
 
-void EnableCommands(std::string_view names, bool enable) {
-  for (const std::string_view name : Split(names, ",")) {
-    if (ToolButton* button = Toolbar.Find(name)) button->Enabled = enable;
-    for (const CommandMenu& command : kCommandMenus) {
-      if (command.key == name) command.entry->Enabled = enable;
-    }
+namespace {
+
+void EnableCommand(std::size_t row, bool enable) {
+  Toolbar.begin()[row].Enabled = enable;
+  if (MenuEntry* entry = kCommands[row].Entry) entry->Enabled = enable;
+}
+
+}  // namespace
+
+void EnableCommands(CommandList commands, bool enable) {
+  for (const std::string_view name : Split(commands.Names(), ",")) {
+    EnableCommand(RowOf(kCommands, name), enable);
   }
+}
+
+CommandStates OpenCommands() {
+  CommandStates states{};
+  std::ranges::transform(Toolbar, states.begin(),
+                         [](const ToolButton& button) { return button.Enabled.Get(); });
+  return states;
+}
+
+void RestoreCommands(const CommandStates& states) {
+  for (std::size_t row = 0; row < states.size(); ++row) EnableCommand(row, states[row]);
 }
 
 bool IsRunPaused() {

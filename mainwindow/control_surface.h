@@ -1,6 +1,9 @@
 #pragma once
 
+#include <array>
+#include <cstddef>
 #include <cstdint>
+#include <iterator>
 #include <string>
 #include <string_view>
 
@@ -23,20 +26,6 @@ inline constexpr int kMinimized = 1;
 inline constexpr int kMaximized = 2;
 // State of the window, one of the above.
 extern Property<int> WindowState;
-
-// Commands. A command changes only through EnableCommands.
-inline constexpr std::array<std::string_view, 9> kCommandKeys = {
-    "New", "Open", "Save", "Print", "Step", "Start", "Pause", "Stop", "Options"};
-
-// Its height in Bounds is the control's own: a window that shows labels of another height writes it
-// as soon as the captions change.
-class ToolBar : public Control, public KeyedItems<ToolButton, kCommandKeys.size()> {
- public:
-  ToolBar();
-  // The key must be one of kCommandKeys.
-  ToolButton& Buttons(std::string_view key) { return *Find(key); }
-};
-extern ToolBar Toolbar;
 
 extern MenuEntry mnuFile;
 extern MenuEntry mnuFileSave;
@@ -61,16 +50,52 @@ extern MenuEntry mnuToolsPlaySound;
 extern MenuEntry mnuHelp;
 extern MenuEntry mnuToolBarShowLabels;
 
-inline constexpr std::array<std::string_view, 9> kPanelKeys = {
-    "FileName", "FeedRate",    "Dim",    "SpindleSpeed", "SpindleDirection",
-    "Coolant",  "ProgressBar", "Slider", "ToolPosition"};
+// A command: a button, and the menu entry that follows its Enabled; null where the entry stays as
+// it is. Picture, label and tool tip of the button go by the key.
+struct CommandRow {
+  std::string_view Key;
+  MenuEntry* Entry;
+};
+inline constexpr CommandRow kCommands[] = {
+    {"New", nullptr},         {"Open", nullptr},         {"Save", &mnuFileSave},
+    {"Print", &mnuFilePrint}, {"Step", &mnuRunStepInto}, {"Start", &mnuRunStart},
+    {"Pause", &mnuRunPause},  {"Stop", &mnuRunStop},     {"Options", nullptr},
+};
+using CommandKey = KeyOf<kCommands>;
+
+// A command changes only through EnableCommands. The height in Bounds is the control's own: a
+// window that shows labels of another height writes it as soon as the captions change.
+class ToolBar : public Control, public KeyedItems<ToolButton, kCommands> {
+ public:
+  ToolBar();
+  ToolButton& Buttons(CommandKey key) { return (*this)[key]; }
+};
+extern ToolBar Toolbar;
+
+struct PanelRow {
+  std::string_view Key;
+  // Pixels.
+  double Width;
+  const char* Tip;
+};
+inline constexpr PanelRow kPanels[] = {
+    {"FileName", 96, "Current File Name"},
+    {"FeedRate", 96, "FeedRate"},
+    {"Dim", 30, "Measurment Unit"},
+    {"SpindleSpeed", 70, "Spindle Speed"},
+    {"SpindleDirection", 40, "Spindle Direction"},
+    {"Coolant", 106, "Coolant"},
+    {"ProgressBar", 96, "Program Progress"},
+    {"Slider", 96, "Simulation Speed"},
+    {"ToolPosition", 150, "Tool Position"},
+};
+using PanelKey = KeyOf<kPanels>;
 
 // Its height in Bounds is the control's own, as that of the tool bar.
-class StatusBarControl : public Control, public KeyedItems<StatusPanel, kPanelKeys.size()> {
+class StatusBarControl : public Control, public KeyedItems<StatusPanel, kPanels> {
  public:
   StatusBarControl();
-  // The key must be one of kPanelKeys.
-  StatusPanel& Panels(std::string_view key) { return *Find(key); }
+  StatusPanel& Panels(PanelKey key) { return (*this)[key]; }
 };
 extern StatusBarControl StatusBar;
 
@@ -114,9 +139,41 @@ RichText& TextBuffer();
 // destroyed.
 void SetTextEditor(RichText* body);
 
-// Opens or closes the commands named in a list divided by commas, without blanks: each button
-// first, then the menu entry that follows it. A name that is no command is passed over.
-void EnableCommands(std::string_view names, bool enable);
+// Commands by their keys, divided by commas, without blanks. A list with another word in it doesn't
+// compile.
+class CommandList {
+ public:
+  consteval CommandList(const char* names) : names_(names) {
+    for (std::string_view rest = names_;;) {
+      const std::size_t comma = rest.find(',');
+      if (RowOf(kCommands, rest.substr(0, comma)) == std::size(kCommands)) throw "no command";
+      if (comma == std::string_view::npos) return;
+      rest.remove_prefix(comma + 1);
+    }
+  }
+  constexpr std::string_view Names() const { return names_; }
+
+ private:
+  std::string_view names_;
+};
+
+// Closed without a program.
+inline constexpr CommandList kProgramCommands = "Save,Print,Step,Start,Pause,Stop";
+// Open with a program that has just been loaded, and with one that has changes to save.
+inline constexpr CommandList kLoadedProgramCommands = "Start,Print,Step";
+inline constexpr CommandList kChangedProgramCommands = "Save,Print,Start,Step";
+// Closed by a run, open after it whatever it was before, and open in it alone.
+inline constexpr CommandList kCommandsClosedByRun = "New,Open,Save,Print,Start,Step,Options";
+inline constexpr CommandList kCommandsOpenAfterRun = "New,Open,Print,Start,Step,Options";
+inline constexpr CommandList kRunCommands = "Pause,Stop";
+
+// Opens or closes commands: each button first, then the menu entry that follows it.
+void EnableCommands(CommandList commands, bool enable);
+
+// Which commands are open, in the order of kCommands; and back to that.
+using CommandStates = std::array<bool, std::size(kCommands)>;
+CommandStates OpenCommands();
+void RestoreCommands(const CommandStates& states);
 
 // Flag: the state of the "Save" command at Start, given back at Stop. An edit of a row during the
 // run sets it.

@@ -124,14 +124,14 @@ void Window::MakeOverlays() {
   progress_->setObjectName("ProgressBar");
   progress_->setAccessibleName("Program progress");
   progress_->setTextVisible(false);
-  progress_->setToolTip("Program Progress");
+  progress_->setToolTip(kPanels[PanelKey("ProgressBar").Row()].Tip);
   bindings_.Bind(frmMain::ProgressBar.Max, [this](int most) { progress_->setMaximum(most); });
   bindings_.Bind(frmMain::ProgressBar.Value, [this](int value) { progress_->setValue(value); });
 
   slider_ = new QSlider(Qt::Horizontal, form_);
   slider_->setObjectName("Slider");
   slider_->setAccessibleName("Simulation speed");
-  slider_->setToolTip("Simulation Speed");
+  slider_->setToolTip(kPanels[PanelKey("Slider").Row()].Tip);
   slider_->setRange(SliderControl::kMin, SliderControl::kMax);
   slider_->setSingleStep(1);
   slider_->setPageStep(5);

@@ -4,7 +4,9 @@
 #include <QKeySequence>
 #include <QMenu>
 #include <QMenuBar>
+#include <algorithm>
 #include <span>
+#include <string_view>
 #include <utility>
 
 #include "debugger/run_commands.h"
@@ -31,10 +33,12 @@ struct EntryRow {
   const char* name = nullptr;
   const char* caption = "";
   const char* shortcut = "";
-  void (*click)() = nullptr;
+  Command click = nullptr;
+  // Of an entry that isn't that of a command.
   MenuEntry* entry = nullptr;
   bool checkable = false;
-  const char* icon = nullptr;
+  // The key of the command whose entry it is.
+  const char* command = nullptr;
 };
 
 struct MenuRow {
@@ -53,26 +57,24 @@ constexpr EntryRow kFileEntries[] = {
      .caption = "&New",
      .shortcut = "Ctrl+N",
      .click = mnuFileNew_Click,
-     .icon = "New"},
+     .command = "New"},
     {.name = "mnuFileOpen",
      .caption = "&Open...",
      .shortcut = "Ctrl+O",
      .click = mnuFileOpen_Click,
-     .icon = "Open"},
+     .command = "Open"},
     {.name = "mnuFileSave",
      .caption = "&Save",
      .shortcut = "Ctrl+S",
      .click = mnuFileSave_Click,
-     .entry = &mnuFileSave,
-     .icon = "Save"},
+     .command = "Save"},
     {.name = "mnuFileSaveAS", .caption = "Save &As...", .click = mnuFileSaveAS_Click},
     {},
     {.name = "mnuFilePrint",
      .caption = "&Print...",
      .shortcut = "Ctrl+P",
      .click = mnuFilePrint_Click,
-     .entry = &mnuFilePrint,
-     .icon = "Print"},
+     .command = "Print"},
     {},
     {.name = kRecentFiles},
     {},
@@ -82,12 +84,12 @@ constexpr EntryRow kFileEntries[] = {
 constexpr EntryRow kViewEntries[] = {
     {.name = "mnuViewStatusBar",
      .caption = "&Status Bar",
-     .click = mnuViewStatusBar_Click,
+     .click = Command::BesideEdit(mnuViewStatusBar_Click),
      .entry = &mnuViewStatusBar,
      .checkable = kCheckable},
     {.name = "mnuViewToolBar",
      .caption = "&Tool Bar",
-     .click = mnuViewToolBar_Click,
+     .click = Command::BesideEdit(mnuViewToolBar_Click),
      .entry = &mnuViewToolBar,
      .checkable = kCheckable},
     {.name = "mnuViewTextEditor",
@@ -106,7 +108,7 @@ constexpr EntryRow kViewEntries[] = {
     {.name = "mnuView3DWindow",
      .caption = "&3D Window",
      .shortcut = "F12",
-     .click = mnuView3DWindow_Click},
+     .click = Command::BesideEdit(mnuView3DWindow_Click)},
 };
 
 constexpr EntryRow kRunEntries[] = {
@@ -114,27 +116,24 @@ constexpr EntryRow kRunEntries[] = {
      .caption = "&Start",
      .shortcut = "F5",
      .click = mnuRunStart_Click,
-     .entry = &mnuRunStart,
-     .icon = "Start"},
+     .command = "Start"},
     {.name = "mnuRunPause",
      .caption = "&Pause",
      .shortcut = "F6",
-     .click = mnuRunPause_Click,
-     .entry = &mnuRunPause,
-     .icon = "Pause"},
+     .click = Command::BesideEdit(mnuRunPause_Click),
+     .command = "Pause"},
     {.name = "mnuRunStop",
      .caption = "S&top",
      .shortcut = "F7",
-     .click = mnuRunStop_Click,
-     .entry = &mnuRunStop,
-     .icon = "Stop"},
+     .click = Command::BesideEdit(mnuRunStop_Click),
+     .command = "Stop"},
     {},
     {.name = "mnuRunStepInto",
      .caption = "St&ep",
      .shortcut = "F8",
-     .click = mnuRunStepInto_Click,
-     .entry = &mnuRunStepInto,
-     .checkable = kCheckable},
+     .click = Command::BesideEdit(mnuRunStepInto_Click),
+     .checkable = kCheckable,
+     .command = "Step"},
     {.name = "mnuRunRunToBreakpoint",
      .caption = "&Run To Breakpoint",
      .shortcut = "Ctrl+F5",
@@ -142,10 +141,12 @@ constexpr EntryRow kRunEntries[] = {
 };
 
 constexpr EntryRow kToolsEntries[] = {
-    {.name = "mnuToolLibrary", .caption = "&Tool Library...", .click = mnuToolLibrary_Click},
+    {.name = "mnuToolLibrary",
+     .caption = "&Tool Library...",
+     .click = Command::BesideEdit(mnuToolLibrary_Click)},
     {.name = "mnuToolsPlaySound",
      .caption = "&Play Sound",
-     .click = mnuToolsPlaySound_Click,
+     .click = Command::BesideEdit(mnuToolsPlaySound_Click),
      .entry = &mnuToolsPlaySound,
      .checkable = kCheckable},
     {.name = "mnuToolsReformatText",
@@ -155,16 +156,18 @@ constexpr EntryRow kToolsEntries[] = {
     {.name = "mnuToolsOptions",
      .caption = "Options...",
      .click = mnuToolsOptions_Click,
-     .icon = "Options"},
+     .command = "Options"},
 };
 
 constexpr EntryRow kHelpEntries[] = {
     {.name = "mnuHelpContents",
      .caption = "&Contents...",
      .shortcut = "Ctrl+F1",
-     .click = mnuHelpContents_Click},
+     .click = Command::BesideEdit(mnuHelpContents_Click)},
     {},
-    {.name = "mnuHelpAbout", .caption = "&About Turnbay...", .click = mnuHelpAbout_Click},
+    {.name = "mnuHelpAbout",
+     .caption = "&About Turnbay...",
+     .click = Command::BesideEdit(mnuHelpAbout_Click)},
 };
 
 constexpr MenuRow kMenus[] = {
@@ -175,22 +178,40 @@ constexpr MenuRow kMenus[] = {
 
 constexpr EntryRow kShowLabels = {.name = "mnuToolBarShowLabels",
                                   .caption = "&Show Labels",
-                                  .click = mnuToolBarShowLabels_Click,
+                                  .click = Command::BesideEdit(mnuToolBarShowLabels_Click),
                                   .entry = &mnuToolBarShowLabels,
                                   .checkable = kCheckable};
+
+MenuEntry* EntryOf(const EntryRow& row) {
+  return row.command != nullptr ? kCommands[RowOf(kCommands, row.command)].Entry : row.entry;
+}
+
+constexpr const EntryRow* FindCommand(std::string_view key) {
+  for (const MenuRow& menu : kMenus) {
+    for (const EntryRow& row : menu.entries) {
+      if (row.command != nullptr && row.command == key) return &row;
+    }
+  }
+  return nullptr;
+}
+static_assert(std::ranges::all_of(kCommands, [](const CommandRow& command) {
+  return FindCommand(command.Key) != nullptr;
+}));
 
 QAction* AddEntry(QMenu& menu, const EntryRow& row, Bindings& bindings) {
   QAction* action = menu.addAction(row.caption);
   action->setObjectName(row.name);
   action->setShortcut(QKeySequence(row.shortcut));
   action->setCheckable(row.checkable);
-  if (row.icon != nullptr) action->setIcon(CommandIcon(row.icon));
-  QObject::connect(action, &QAction::triggered, action, [click = row.click] { click(); });
-  if (row.entry != nullptr) {
-    bindings.Bind(row.entry->Enabled, [action](bool enabled) { action->setEnabled(enabled); });
+  // A mark stands where the picture would.
+  if (row.command != nullptr && !row.checkable) action->setIcon(CommandIcon(row.command));
+  QObject::connect(action, &QAction::triggered, action, [click = row.click] { click.Choose(); });
+  MenuEntry* entry = EntryOf(row);
+  if (entry != nullptr) {
+    bindings.Bind(entry->Enabled, [action](bool enabled) { action->setEnabled(enabled); });
   }
   if (row.checkable) {
-    bindings.Bind(row.entry->Checked, [action](bool checked) { action->setChecked(checked); });
+    bindings.Bind(entry->Checked, [action](bool checked) { action->setChecked(checked); });
   }
   return action;
 }
@@ -229,6 +250,10 @@ void AddEntries(QMenu& menu, std::span<const EntryRow> rows, Bindings& bindings)
 }
 
 }  // namespace
+
+Command MenuCommand(std::string_view key) {
+  return FindCommand(key)->click;
+}
 
 void MakeMenus(QMainWindow& window, Bindings& bindings) {
   for (const MenuRow& row : kMenus) {

@@ -13,22 +13,6 @@ namespace {
 // Pixels between a panel and the bar's upper and lower edge, and the next panel.
 constexpr int kGap = 2;
 
-struct PanelTip {
-  std::string_view key;
-  const char* tip;
-};
-constexpr PanelTip kTips[] = {
-    {"FileName", "Current File Name"},
-    {"FeedRate", "FeedRate"},
-    {"Dim", "Measurment Unit"},
-    {"SpindleSpeed", "Spindle Speed"},
-    {"SpindleDirection", "Spindle Direction"},
-    {"Coolant", "Coolant"},
-    {"ProgressBar", "Program Progress"},
-    {"Slider", "Simulation Speed"},
-    {"ToolPosition", "Tool Position"},
-};
-
 QFont PanelFont() {
   QFont font("Courier New", 9);
   font.setStyleHint(QFont::Monospace);
@@ -42,14 +26,13 @@ StatusBarView::StatusBarView(QWidget* parent) : QWidget(parent) {
   setAccessibleName("Status bar");
   setAutoFillBackground(true);
   const int height = static_cast<int>(std::lround(StatusBar.Bounds.Get().Height));
-  for (const PanelTip& row : kTips) {
-    StatusPanel& panel = StatusBar.Panels(row.key);
+  for (std::size_t i = 0; StatusPanel & panel : StatusBar) {
     auto* label = new QLabel(this);
-    label->setObjectName(QString::fromUtf8(row.key.data(), static_cast<int>(row.key.size())));
+    label->setObjectName(QString::fromUtf8(panel.Key.data(), static_cast<int>(panel.Key.size())));
     label->setTextFormat(Qt::PlainText);
     label->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
     label->setFont(PanelFont());
-    label->setToolTip(row.tip);
+    label->setToolTip(kPanels[i++].Tip);
     label->setGeometry(static_cast<int>(std::lround(panel.Left)), kGap,
                        static_cast<int>(std::lround(panel.Width)) - kGap, height - 2 * kGap);
     bindings_.Bind(panel.Text, [label](const std::string& text) {

@@ -4,14 +4,11 @@
 #include <QContextMenuEvent>
 #include <QMenu>
 #include <QToolButton>
+#include <algorithm>
 
-#include "debugger/run_commands.h"
-#include "editor/documents.h"
 #include "mainwindow/control_surface.h"
 #include "mainwindow/frm_main_menus.h"
 #include "mainwindow/frm_tool_bar_layout.h"
-#include "mainwindow/print_listing.h"
-#include "settings/frm_options.h"
 
 namespace frmMain {
 
@@ -19,26 +16,8 @@ namespace {
 
 constexpr QSize kPictureSize(16, 16);
 
-// Without a key: a line.
-struct ButtonRow {
-  const char* key = nullptr;
-  void (*click)() = nullptr;
-};
-
-constexpr ButtonRow kButtons[] = {
-    {"New", mnuFileNew_Click},
-    {"Open", mnuFileOpen_Click},
-    {"Save", mnuFileSave_Click},
-    {},
-    {"Print", mnuFilePrint_Click},
-    {},
-    {"Step", mnuRunStepInto_Click},
-    {"Start", mnuRunStart_Click},
-    {"Pause", mnuRunPause_Click},
-    {"Stop", mnuRunStop_Click},
-    {},
-    {"Options", mnuToolsOptions_Click},
-};
+// Each begins a group of buttons.
+constexpr CommandKey kGroups[] = {"Print", "Step", "Options"};
 
 }  // namespace
 
@@ -54,24 +33,23 @@ ToolBarView::ToolBarView(QWidget* parent) : QToolBar(parent) {
   setAccessibleName("Tool bar");
   setIconSize(kPictureSize);
   setAutoFillBackground(true);
-  for (const ButtonRow& row : kButtons) {
-    if (row.key == nullptr) {
-      addSeparator();
-    } else {
-      AddButton(row.key, row.click);
-    }
+  for (ToolButton& button : Toolbar) {
+    const auto begins = [&](CommandKey first) { return first.Name() == button.Key; };
+    if (std::ranges::any_of(kGroups, begins)) addSeparator();
+    AddButton(button);
   }
   menu_ = MakeToolBarMenu(*this, bindings_, [this] { LayOutToolBar(*this); });
   setContextMenuPolicy(Qt::CustomContextMenu);
   connect(this, &QWidget::customContextMenuRequested, this, &ToolBarView::ShowMenu);
 }
 
-void ToolBarView::AddButton(const char* key, void (*click)()) {
-  ToolButton& button = Toolbar.Buttons(key);
+void ToolBarView::AddButton(ToolButton& button) {
+  const QString key = QString::fromUtf8(button.Key.data(), static_cast<int>(button.Key.size()));
   QAction* action = addAction(CommandIcon(key), key);
   action->setObjectName(key);
   action->setToolTip(key);
-  connect(action, &QAction::triggered, this, [click] { click(); });
+  connect(action, &QAction::triggered, this,
+          [command = MenuCommand(button.Key)] { command.Choose(); });
   QWidget* widget = widgetForAction(action);
   widget->setObjectName(key);
   widget->setAccessibleName(key);

@@ -4,6 +4,7 @@
 #include <QToolBar>
 #include <string>
 
+#include "platform/controls.h"
 #include "platform/qt/views/bindings.h"
 
 class QMenu;
@@ -23,7 +24,7 @@ class ToolBarView : public QToolBar {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  void AddButton(const char* key, void (*click)());
+  void AddButton(ToolButton& button);
   void ShowCaption(QAction& action, const std::string& caption);
   void ShowMenu(const QPoint& place);
 

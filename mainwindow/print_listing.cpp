@@ -4,7 +4,6 @@
 #include <QPrinter>
 #include <QTemporaryDir>
 
-#include "debugger/row_edit.h"
 #include "mainwindow/control_surface.h"
 #include "mainwindow/listing.h"
 #include "platform/host/desktop.h"
@@ -45,7 +44,6 @@ std::string Failure(const std::string& file) {
 }  // namespace
 
 void mnuFilePrint_Click() {
-  txtDebug_LostFocus();
   const Listing listing = EditorListing();
   QPrinter printer(QPrinter::HighResolution);
   printer.setDocName(listing.title);

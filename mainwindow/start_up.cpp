@@ -65,7 +65,7 @@ void Form_Load() {
   GlobalVariables::LoadSettings();
   ApplySettings();
   BuildRecentFilesMenu();
-  EnableCommands("Save,Print,Step,Start,Pause,Stop", false);
+  EnableCommands(kProgramCommands, false);
   StatusBar.Panels("FileName").Text = kUntitled;
   com.InitDir = ApplicationFolder();
   if (GlobalVariables::Settings.SplashScreen != 0) Desktop::ShowSplash();

@@ -4,7 +4,6 @@
 #include <string_view>
 
 #include "debugger/debug_grid.h"
-#include "debugger/row_edit.h"
 #include "editor/colouring.h"
 #include "interpreter/machine.h"
 #include "mainwindow/control_surface.h"
@@ -47,7 +46,6 @@ void mnuViewStatusBar_Click() {
 }
 
 void mnuViewTextEditor_Click() {
-  txtDebug_LostFocus();
   Invert(mnuViewTextEditor);
   TextEditor().Visible = mnuViewTextEditor.Checked;
   if (BothPanesAreVisible()) {
@@ -61,7 +59,6 @@ void mnuViewTextEditor_Click() {
 }
 
 void mnuViewDebugWindow_Click() {
-  txtDebug_LostFocus();
   Invert(mnuViewDebugWindow);
   DebugWindow.Visible = mnuViewDebugWindow.Checked;
   if (BothPanesAreVisible()) {

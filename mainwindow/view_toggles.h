@@ -8,11 +8,11 @@ namespace frmMain {
 void mnuViewToolBar_Click();
 void mnuViewStatusBar_Click();
 
-// Hides the grid when it shows the editor. An open edit of a row is taken over first.
+// Hides the grid when it shows the editor.
 void mnuViewTextEditor_Click();
 
 // Hides the editor when it shows the grid. Fills the rows whenever TextChanged is set, so that
-// they lose their break points. An open edit of a row is taken over first.
+// they lose their break points.
 // Yields.
 void mnuViewDebugWindow_Click();
 

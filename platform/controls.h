@@ -3,6 +3,7 @@
 #include <array>
 #include <cstddef>
 #include <functional>
+#include <iterator>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -60,15 +61,38 @@ struct StatusPanel {
   double Width = 0;
 };
 
-// Items found by key; the keys are fixed when the collection is made.
-template <class Item, std::size_t count>
+// The row of a table that has a key; the count of rows when none has it.
+template <class Rows>
+constexpr std::size_t RowOf(const Rows& rows, std::string_view key) {
+  std::size_t row = 0;
+  while (row < std::size(rows) && rows[row].Key != key) ++row;
+  return row;
+}
+
+// A key written in the code. One that no row of the table has doesn't compile.
+template <const auto& rows>
+class KeyOf {
+ public:
+  consteval KeyOf(const char* key) : row_(RowOf(rows, key)) {
+    if (row_ == std::size(rows)) throw "no row has this key";
+  }
+  constexpr std::size_t Row() const { return row_; }
+  constexpr std::string_view Name() const { return rows[row_].Key; }
+
+ private:
+  std::size_t row_;
+};
+
+// Items found by key, one for each row of a table.
+template <class Item, const auto& rows>
 class KeyedItems {
  public:
-  explicit KeyedItems(const std::array<std::string_view, count>& keys) {
-    for (std::size_t i = 0; i < count; ++i) items_[i].Key = keys[i];
+  KeyedItems() {
+    for (std::size_t i = 0; i < items_.size(); ++i) items_[i].Key = rows[i].Key;
   }
 
-  // Null for an unknown key.
+  Item& operator[](KeyOf<rows> key) { return items_[key.Row()]; }
+  // For a key that is known when running. Null for an unknown one.
   Item* Find(std::string_view key) {
     for (Item& item : items_) {
       if (item.Key == key) return &item;
@@ -79,7 +103,7 @@ class KeyedItems {
   auto end() { return items_.end(); }
 
  private:
-  std::array<Item, count> items_;
+  std::array<Item, std::size(rows)> items_;
 };
 
 struct ComboBox {

@@ -4,7 +4,6 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "debugger/row_edit.h"
 #include "mainwindow/control_surface.h"
 #include "mainwindow/start_up.h"
 #include "platform/qt/host/dialog_owner.h"
@@ -113,7 +112,6 @@ void OptionsDialog::cmdOK_Click() {
 namespace frmMain {
 
 void mnuToolsOptions_Click() {
-  txtDebug_LostFocus();
   Tag.clear();
   frmOptions::OptionsDialog(DialogOwner()).exec();
   if (Tag == "OK") ApplyOptions();

@@ -1,3 +1,4 @@
+#include "mainwindow/command.h"
 #include "tests/fakes/debugger_test.h"
 
 using namespace frmMain;
@@ -18,12 +19,14 @@ TEST_F(RowEditTest, WhatTakesAnOpenEditOver) {
     void (*act)();
     bool stays, taken;
   };
-  for (const Case& c : {Case{"Esc", [] { txtDebug_KeyUp(27, 0); }, false, false},
-                        {"Enter", PressEnter, false, true},
-                        {"focus", txtDebug_LostFocus, false, true},
-                        {"nothing typed", LeaveUnchanged, false, false},
-                        {"other row", [] { OpenEdit(0, "G00 X1"); }, true, true},
-                        {"view", mnuViewTextEditor_Click, false, true}}) {
+  for (const Case& c :
+       {Case{"Esc", [] { txtDebug_KeyUp(27, 0); }, false, false},
+        {"Enter", PressEnter, false, true},
+        {"focus", txtDebug_LostFocus, false, true},
+        {"nothing typed", LeaveUnchanged, false, false},
+        {"other row", [] { OpenEdit(0, "G00 X1"); }, true, true},
+        {"command", [] { Command([] {}).Choose(); }, false, true},
+        {"command beside it", [] { Command::BesideEdit([] {}).Choose(); }, true, false}}) {
     Show({"G00 X1", "G00 X2"});
     ClickMark(1);
     OpenEdit(1, " g00  x9 ");

@@ -1,6 +1,7 @@
 #include <cstdlib>
 #include <random>
 
+#include "mainwindow/command.h"
 #include "motion/player.h"
 #include "tests/fakes/debugger_test.h"
 
@@ -56,8 +57,8 @@ class StateTableTest : public DebuggerTest {
     modified_ = modified_ || (takesOver && (command == 1 ? txtDebug.Visible.Get() : EditDiffers()));
     if (command == 0) OpenEdit(row, kBlocks[Pick(std::size(kBlocks))]);
     if (command == 1) PressEnter();
-    if (command == 2 && mnuView.Enabled) mnuViewTextEditor_Click();
-    if (command == 3 && mnuView.Enabled) mnuViewDebugWindow_Click();
+    if (command == 2 && mnuView.Enabled) Command(mnuViewTextEditor_Click).Choose();
+    if (command == 3 && mnuView.Enabled) Command(mnuViewDebugWindow_Click).Choose();
     if (command == 4) txtDebug_KeyUp(27, 0);
     if (command == 5) Slider.Value = Pick(21) + SliderControl::kMin;
     if (command == 6) ClickMark(row);
@@ -70,7 +71,7 @@ class StateTableTest : public DebuggerTest {
   }
 
   // With a run on the stack the command may resume it or do nothing, but never play.
-  void PressStart(void (*command)()) {
+  void PressStart(Command command) {
     modified_ = modified_ || EditDiffers();
     const bool isFirst = !runOnStack_;
     if (!isFirst) ++Refused;
@@ -78,7 +79,7 @@ class StateTableTest : public DebuggerTest {
     const std::int64_t points = GCodes::PointsPlayed;
     runOnStack_ = true;
     if (isFirst) stepSeen_ = mnuRunStepInto.Checked;
-    command();
+    command.Choose();
     runOnStack_ = !isFirst;
     EXPECT_TRUE(isFirst || (yields == Fakes::Yields() && points == GCodes::PointsPlayed));
     EXPECT_FALSE(isFirst && IsOpen("Stop"));

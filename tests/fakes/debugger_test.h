@@ -94,7 +94,7 @@ class DebuggerTest : public MachineTest {
     return found;
   }
 
-  static bool IsOpen(std::string_view command) { return frmMain::Toolbar.Buttons(command).Enabled; }
+  static bool IsOpen(std::string_view command) { return frmMain::Toolbar.Find(command)->Enabled; }
 
   // What the user can choose: commands, then "Menus" where those that a run closes are open.
   static std::string OpenCommands() {

@@ -21,9 +21,9 @@ TEST_F(MWordsTest, NotifyBeforeOrBehindTheirOtherSteps) {
     std::string seen;
     Fakes::AtEachNotification([&] {
       seen = Toolbar.Buttons("Stop").Enabled ? "running" : "idle";
-      for (const char* key : kPanels) seen += '|' + StatusBar.Panels(key).Text.Get();
+      for (const char* key : kPanels) seen += '|' + StatusBar.Find(key)->Text.Get();
     });
-    for (const char* key : kPanels) StatusBar.Panels(key).Text = "-";
+    for (const char* key : kPanels) StatusBar.Find(key)->Text = "-";
     Play({"[BILLET X20 Z40", std::string(word) + " S150"});
     EXPECT_EQ(expected, seen) << word;
   }

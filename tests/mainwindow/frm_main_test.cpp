@@ -114,7 +114,7 @@ class WindowTest : public testing::Test {
 TEST_F(WindowTest, ComesUpMaximizedWithTheCommandsThatNeedNoProgram) {
   Open();
   EXPECT_TRUE(window->isMaximized());
-  for (const auto key : frmMain::kCommandKeys) {
+  for (const auto& [key, entry] : frmMain::kCommands) {
     const bool needsNone = key == "New" || key == "Open" || key == "Options";
     EXPECT_EQ(needsNone, IsOpen(key.data())) << key;
   }
