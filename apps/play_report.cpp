@@ -14,7 +14,7 @@
 #include "motion/stock.h"
 #include "platform/code_page.h"
 #include "platform/numbers.h"
-#include "platform/qt/host/raster_image.h"
+#include "platform/qt/views/raster_image.h"
 #include "platform/windowless/windowless.h"
 
 namespace {

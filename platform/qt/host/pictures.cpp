@@ -6,7 +6,7 @@
 
 #include "platform/host/files.h"
 #include "platform/qt/host/paths.h"
-#include "platform/qt/host/raster_image.h"
+#include "platform/qt/views/raster_image.h"
 
 namespace {
 

@@ -3,8 +3,8 @@
 #include <QPaintEvent>
 #include <QPainter>
 
-#include "platform/qt/host/raster_image.h"
 #include "platform/qt/views/colours.h"
+#include "platform/qt/views/raster_image.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "platform/qt/host/raster_image.h"
+#include "platform/qt/views/raster_image.h"
 
 namespace {
 
