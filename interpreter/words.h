@@ -20,9 +20,9 @@ void MarkRadiusGiven();
 
 struct WordRule {
   char letter;
-  // Takes the whole word, in place of all that follows.
-  void (*decode)(std::string_view word) = nullptr;
   Scale scale = Scale::Plain;
+  // Takes the whole word, in place of all else.
+  void (*decode)(std::string_view word) = nullptr;
   // None: the number means nothing here.
   std::int16_t* value = nullptr;
   // For incremental words: the target becomes position plus value.
