@@ -10,6 +10,7 @@
 #include "mainwindow/frm_splash.h"
 #include "mainwindow/listing.h"
 #include "mainwindow/notifications.h"
+#include "mainwindow/program_start.h"
 #include "platform/host/desktop.h"
 
 namespace {
@@ -75,7 +76,7 @@ TEST(SmallWindowsTest, TheProgramEndsBehindAModalNotification) {
       qApp, [] { ModCNC::DecodeMWord("M10"); }, Qt::QueuedConnection);
   EXPECT_EQ(0, QApplication::exec());
   EXPECT_EQ(nullptr, Up("frmInfo"));
-  frmMain::ResetDocuments();
+  frmMain::ResetToProgramStart();
 }
 
 TEST(SmallWindowsTest, WithoutAViewerTheManualOpensInOneWindow) {
