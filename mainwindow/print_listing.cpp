@@ -47,7 +47,7 @@ void mnuFilePrint_Click() {
   const Listing listing = EditorListing();
   QPrinter printer(QPrinter::HighResolution);
   printer.setDocName(listing.title);
-  constexpr double margin = kMarginMillimetres;
+  const double margin = kMarginMillimetres;
   printer.setPageMargins({margin, margin, margin, margin}, QPageLayout::Millimeter);
   QPrintDialog dialog(&printer, DialogOwner());
   if (dialog.exec() != QDialog::Accepted) return;
