@@ -111,8 +111,9 @@ int MessageBox(const std::string& text, int style, const std::string& title) {
   return expected.answer;
 }
 
-void ShowNotification(const std::string& text, int /*milliseconds*/, bool modal) {
+void ShowNotification(const std::string& text, int milliseconds, bool modal) {
   world.notifications.push_back(text);
+  world.notificationStyle = std::to_string(milliseconds) + (modal ? " ms, modal" : " ms");
   if (world.atEachNotification) world.atEachNotification();
   if (modal) Yield();
 }

@@ -28,6 +28,7 @@ struct FakeWorld {
   std::vector<FakeMessage> messages;
   std::function<void()> atEachNotification;
   std::vector<std::string> notifications;
+  std::string notificationStyle;
   // To open or to save, and the path that is chosen.
   std::deque<std::pair<bool, std::string>> dialogs;
   std::string offeredName;
@@ -73,6 +74,8 @@ class Fakes {
 
   // The texts of every notification so far. A modal one handles events as Yield does.
   static const std::vector<std::string>& Notifications() { return world.notifications; }
+  // How the last one was shown, as "2000 ms" or "500 ms, modal".
+  static const std::string& NotificationStyle() { return world.notificationStyle; }
   // Runs `action` as each notification appears.
   static void AtEachNotification(Action action) { world.atEachNotification = std::move(action); }
 

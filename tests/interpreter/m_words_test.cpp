@@ -1,32 +1,43 @@
-// Order of steps; the programs in tests/data show texts, times and panels of every word.
-
 #include <gmock/gmock.h>
 #include <string>
 
 #include "motion/tool.h"
 #include "tests/fakes/machine_test.h"
+#include "tests/golden.h"
 
 namespace {
 
 using MWordsTest = MachineTest;
 
-TEST_F(MWordsTest, NotifyBeforeOrBehindTheirOtherSteps) {
+// What the user sees of each word, in order: panels that change, notifications, pause and stop. The
+// feed rate belongs to the block behind.
+TEST_F(MWordsTest, PanelsAndNotificationsAreKept) {
   using frmMain::StatusBar, frmMain::Toolbar;
-  constexpr const char* kPanels[] = {"SpindleSpeed", "SpindleDirection", "Coolant"};
-  constexpr const char* kCases[][2] = {{"M03", "running|-|-|-"},
-                                       {"M05", "running|-|-|-"},
-                                       {"M14", "running|S 150|CCW|Coolant: ON"},
-                                       {"M30", "idle|-|-|Coolant: OFF"}};
-  for (const auto& [word, expected] : kCases) {
-    std::string seen;
-    Fakes::AtEachNotification([&] {
-      seen = Toolbar.Buttons("Stop").Enabled ? "running" : "idle";
-      for (const char* key : kPanels) seen += '|' + StatusBar.Find(key)->Text.Get();
-    });
-    for (const char* key : kPanels) StatusBar.Find(key)->Text = "-";
-    Play({"[BILLET X20 Z40", std::string(word) + " S150"});
-    EXPECT_EQ(expected, seen) << word;
+  constexpr const char* kPanels[] = {"SpindleSpeed", "SpindleDirection", "Coolant", "FeedRate"};
+  std::string seen;
+  for (const std::string key : kPanels) {
+    StatusBar.Find(key)->Text.Watch(
+        [&seen, key](const std::string& text) { seen += "; " + key + " \"" + text + '"'; });
   }
+  Toolbar.Buttons("Pause").Enabled.Watch([&](bool open) {
+    if (!open) seen += Toolbar.Buttons("New").Enabled ? "; stop" : "; pause";
+  });
+  Fakes::AtEachNotification([&] {
+    seen +=
+        "; notification \"" + Fakes::Notifications().back() + "\" " + Fakes::NotificationStyle();
+  });
+  Fakes::PutFile("/app/tools/ToolList.ini", "2=tool.bmp");
+  Fakes::PutFile("/app/tools/tool.ini", "TOOLWIDTH=67\r\nTOOLHEIGHT=101");
+  std::string table;
+  for (int number = 0; number <= 99; number += number == 40 ? 59 : 1) {
+    for (const char* key : kPanels) StatusBar.Find(key)->Text = "before";
+    seen.clear();
+    Play({"[BILLET X20 Z40", 'M' + std::to_string(number) + " G04 S150 T2", "F1"});
+    table += 'M' + std::to_string(number) + seen + '\n';
+  }
+  for (const char* key : kPanels) StatusBar.Find(key)->Text.Watch({});
+  Toolbar.Buttons("Pause").Enabled.Watch({});
+  ExpectGolden("m_words", table);
 }
 
 TEST_F(MWordsTest, StopInsideModalNotificationEndsTheRunBehindItsRow) {

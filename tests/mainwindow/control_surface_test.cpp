@@ -1,47 +1,84 @@
 #include "mainwindow/control_surface.h"
 
-#include "tests/fakes/machine_test.h"
+#include "editor/documents.h"
+#include "tests/fakes/debugger_test.h"
+#include "tests/golden.h"
+
+using namespace frmMain;
 
 namespace {
 
-class ControlSurfaceTest : public MachineTest {
+class ControlSurfaceTest : public DebuggerTest {
  protected:
-  static std::string OpenCommands() {
-    std::string open;
-    for (ToolButton& button : frmMain::Toolbar) {
-      if (button.Enabled) open += std::string(button.Key) + ' ';
+  // Commands and menus that are open, and whether the text is.
+  static std::string OpenNow() {
+    std::string open = "commands:";
+    for (const ToolButton& button : Toolbar) {
+      if (button.Enabled) open += ' ' + std::string(button.Key);
     }
-    return open;
+    const auto add = [&](const char* name, const MenuEntry& entry) {
+      if (entry.Enabled) open += std::string(" ") + name;
+    };
+    open += "; entries:";
+    add("Save", mnuFileSave);
+    add("Print", mnuFilePrint);
+    add("Start", mnuRunStart);
+    add("Pause", mnuRunPause);
+    add("Stop", mnuRunStop);
+    add("Step", mnuRunStepInto);
+    open += "; menus:";
+    add("File", mnuFile);
+    add("View", mnuView);
+    add("Tools", mnuTools);
+    add("Help", mnuHelp);
+    return open + (TextEditor().Locked ? "; text locked\n" : "; text open\n");
   }
 };
 
-TEST_F(ControlSurfaceTest, SixCommandsMoveTheirMenuEntryAsWell) {
-  frmMain::EnableCommands("Save,Print,Start,Pause,Stop,Step", true);
-  for (MenuEntry* entry : {&frmMain::mnuFileSave, &frmMain::mnuFilePrint, &frmMain::mnuRunStart,
-                           &frmMain::mnuRunPause, &frmMain::mnuRunStop, &frmMain::mnuRunStepInto}) {
-    EXPECT_TRUE(entry->Enabled);
-  }
-  frmMain::EnableCommands("New,Open,Save,Print,Start,Step,Options", false);
-  EXPECT_EQ("Pause Stop ", OpenCommands());
-  EXPECT_FALSE(frmMain::mnuFileSave.Enabled);
-  EXPECT_TRUE(frmMain::mnuRunStop.Enabled);
-  EXPECT_TRUE(frmMain::mnuFile.Enabled);
-  frmMain::EnableCommands("Step", true);
-  EXPECT_EQ("Step Pause Stop ", OpenCommands());
+TEST_F(ControlSurfaceTest, WhatIsOpenInEachStateIsKept) {
+  std::string table = "Program start     " + OpenNow();
+  const auto note = [&](const char* state) { table += state + OpenNow(); };
+  Fakes::PutFile("/part.cnc", "[BILLET X20 Z40\r\nG01 X18 Z-5\r\nM05");
+  Fakes::ExpectOpenDialog("/part.cnc");
+  mnuFileOpen_Click();
+  note("Opened            ");
+  TextEditor().SetText(TextEditor().Text() + ' ');
+  note("Typed             ");
+  Fakes::AtYield(4, [&] {
+    note("Running           ");
+    mnuRunPause_Click();
+    note("Paused            ");
+  });
+  Fakes::AtWait(mnuRunStart_Click);
+  Fakes::AtEachNotification([&] { note("Resumed           "); });
+  mnuRunStart_Click();
+  note("Run over          ");
+  Fakes::AtEachNotification({});
+  mnuRunStepInto_Click();
+  Fakes::AtWait([&] {
+    note("Paused in a step  ");
+    mnuRunStart_Click();
+    note("Resumed in a step ");
+    mnuRunStop_Click();
+    note("Stopped           ");
+  });
+  mnuRunStart_Click();
+  mnuFileSave_Click();
+  note("Saved             ");
+  TextEditor().SetText("");
+  note("Emptied           ");
+  mnuFileNew_Click();
+  note("New               ");
+  ExpectGolden("open_commands", table);
 }
 
-TEST_F(ControlSurfaceTest, AWatcherHearsOfRealChangesOnlyAndButtonsFirst) {
-  std::vector<std::string> heard;
-  frmMain::Toolbar.Buttons("Step").Enabled.Watch(
-      [&](bool on) { heard.push_back(on ? "button on" : "button off"); });
-  frmMain::mnuRunStepInto.Enabled.Watch(
-      [&](bool on) { heard.push_back(on ? "menu on" : "menu off"); });
-  frmMain::EnableCommands("Step", false);
-  frmMain::EnableCommands("Step", true);
-  frmMain::EnableCommands("Step,Step", true);
-  EXPECT_EQ((std::vector<std::string>{"button on", "menu on"}), heard);
-  frmMain::Toolbar.Buttons("Step").Enabled.Watch({});
-  frmMain::mnuRunStepInto.Enabled.Watch({});
+TEST_F(ControlSurfaceTest, AWatcherHearsOfRealChangesOnly) {
+  int heard = 0;
+  mnuRunStepInto.Enabled.Watch([&](bool) { ++heard; });
+  EnableCommands("Step", false);
+  EnableCommands("Step,Step", true);
+  EXPECT_EQ(1, heard);
+  mnuRunStepInto.Enabled.Watch({});
 }
 
 }  // namespace
