@@ -25,6 +25,7 @@ class StateTableTest : public DebuggerTest {
     for (int i = 3 + Pick(20); i > 0; --i) lines.emplace_back(kBlocks[Pick(std::size(kBlocks))]);
     Write(lines);
     Fakes::AtEachYield([this] {
+      NoteEndOfRow();
       // A run that nobody touches any more ends.
       if (commandsLeft_ == 0 && IsRunPaused()) PressStart(mnuRunStart_Click);
       if (commandsLeft_ > 0 && Pick(3) == 0) Act();
@@ -78,18 +79,29 @@ class StateTableTest : public DebuggerTest {
     const int yields = Fakes::Yields();
     const std::int64_t points = GCodes::PointsPlayed;
     runOnStack_ = true;
-    if (isFirst) stepSeen_ = mnuRunStepInto.Checked;
+    if (isFirst) {
+      row_ = 0;
+      stepOpened_ = false;
+    }
     command.Choose();
     runOnStack_ = !isFirst;
     EXPECT_TRUE(isFirst || (yields == Fakes::Yields() && points == GCodes::PointsPlayed));
     EXPECT_FALSE(isFirst && IsOpen("Stop"));
   }
 
+  // The end of a row with Step down pauses the run and opens Step until the run is over.
+  void NoteEndOfRow() {
+    const bool rowEnded = row_ != GlobalVariables::CurrentRow && IsOpen("Stop");
+    row_ = GlobalVariables::CurrentRow;
+    if (!rowEnded || !mnuRunStepInto.Checked) return;
+    stepOpened_ = true;
+    EXPECT_TRUE(IsRunPaused());
+  }
+
   void CheckState() {
     const bool inRun = IsOpen("Stop");
     std::string expected = IsOpen("Pause") ? kRunning : inRun ? kPaused : kIdle;
-    stepSeen_ = stepSeen_ || mnuRunStepInto.Checked;
-    if (inRun && stepSeen_ && IsOpen("Step")) expected = "Step " + expected;
+    if (inRun && stepOpened_) expected = "Step " + expected;
     if (!inRun && modified_) expected.insert(expected.find("Print"), "Save ");
     EXPECT_EQ(expected, OpenCommands());
     EXPECT_TRUE(runOnStack_ || !inRun);
@@ -103,8 +115,9 @@ class StateTableTest : public DebuggerTest {
   std::mt19937 random_;
   bool modified_ = false;
   bool runOnStack_ = false;
-  // Step was down in this run, which opens it in pauses.
-  bool stepSeen_ = false;
+  // The row that this run was seen in last, and whether a row has ended in it while Step was down.
+  int row_ = 0;
+  bool stepOpened_ = false;
   int commandsLeft_ = 0;
 };
 

@@ -10,15 +10,6 @@ using namespace ModCNC;
 
 using RunDriverTest = MachineTest;
 
-TEST_F(RunDriverTest, StopEndsTheMoveAtTheNextPointAndTheRunAtTheNextRow) {
-  Fakes::AtYield(6, frmMain::mnuRunStop_Click);
-  Play({"[BILLET X20 Z40", "G00 X18 Z2", "G01 Z-40", "T7"});
-  EXPECT_GT(100, GCodes::PointsPlayed);
-  EXPECT_EQ(0, ToolNumber);
-  EXPECT_EQ(0, CurrentZ);
-  EXPECT_EQ(100, RadiusAt(-39));
-}
-
 TEST_F(RunDriverTest, StopLeavesThePatternCycleAtTheNextRow) {
   Fakes::AtEachYield([] {
     if (GCodes::CycleOffsetX == 20) frmMain::mnuRunStop_Click();
