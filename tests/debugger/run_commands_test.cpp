@@ -1,4 +1,7 @@
+#include <gmock/gmock.h>
+
 #include "motion/player.h"
+#include "motion/tool.h"
 #include "tests/fakes/debugger_test.h"
 
 using namespace frmMain;
@@ -47,9 +50,75 @@ TEST_F(RunCommandsTest, SteppingGoesFromPathToPathAndStopPlaysNoFurtherPoint) {
 }
 
 TEST_F(RunCommandsTest, ARapidMoveEndsWhereItIsProgrammed) {
-  Show({"[BILLET X20 Z40", "G00 X30.4 Z1.3"});
+  for (const auto& [block, shown] : {std::pair{"G00 X30.4 Z1.3", "X 30.4  Z 1.3"},
+                                     {"G00 X0 Z-0.4", "X 0.0  Z -0.4"},
+                                     {"G00 X-0.6 Z0", "X -0.6  Z 0.0"}}) {
+    Show({"[BILLET X20 Z40", block});
+    mnuRunStart_Click();
+    EXPECT_EQ(shown, StatusBar.Panels("ToolPosition").Text.Get());
+  }
+}
+
+TEST_F(RunCommandsTest, ASecondStartKeepsNothingOfTheFirst) {
+  Show(std::vector<std::string>(41, "[BILLET X24 Z39"));
+  // Without a break point the wish for one outlives the run.
+  mnuRunRunToBreakpoint_Click();
+  EXPECT_EQ(30, DebugWindow.TopRow);
+  Show(kProgram);
+  int copies = 0;
+  picSim.Blt = [&](const Raster&, const PixelRect&) { ++copies; };
   mnuRunStart_Click();
-  EXPECT_EQ("X 30.4  Z 1.3", StatusBar.Panels("ToolPosition").Text.Get());
+  EXPECT_GT(copies, 4);
+  EXPECT_EQ(0, DebugWindow.TopRow);
+  const Colour besideBillet = Graphics::StockDC.Read().GetPixel(50, Graphics::CentreLine - 110);
+  EXPECT_EQ(GlobalVariables::Settings.SimBackColor, besideBillet);
+}
+
+TEST_F(RunCommandsTest, AResumeTakesAnEditedRowAsItStands) {
+  Show({"[BILLET X20 Z40", "G00 X30 Z1", "G00", "G01 X19 Z1"});
+  Fakes::AtYield(3, [&] {
+    mnuRunPause_Click();
+    OpenEdit(2, "");
+    PressEnter();
+    OpenEdit(3, " Y1 (no good)");
+  });
+  Fakes::AtWait(mnuRunStart_Click);
+  mnuRunStart_Click();
+  EXPECT_EQ("[BILLET X20 Z40\r\nG00 X30 Z1\r\n\r\n Y1 (no good)", TextEditor().Text());
+  EXPECT_TRUE(IsOpen("Save"));
+  EXPECT_EQ("", RowText(2));
+  const std::int64_t points = GCodes::PointsPlayed;
+  Show({"[BILLET X20 Z40", "G00 X30 Z1"});
+  mnuRunStart_Click();
+  EXPECT_EQ(points, GCodes::PointsPlayed - points + 2) << "rows without a word move once each";
+}
+
+TEST_F(RunCommandsTest, RowsOfThePatternCycleBearMarkAndBreakPoints) {
+  Show({"[BILLET X40 Z12", "G00 X60 Z5", "G73 U4 W-2 R2", "G73 P10 Q30 U0 W0", "N10 G01 X44 Z-1",
+        "[note", "N30 G01 X40", "M08"});
+  ClickMark(5);
+  std::string seen;
+  int last = -1;
+  Fakes::AtEachYield([&] {
+    const bool isPaused = IsRunPaused();
+    if (ExecutingRow() != last || isPaused)
+      seen += ' ' + std::to_string(ExecutingRow()) + (isPaused ? "p" : "");
+    last = ExecutingRow();
+    if (isPaused) mnuRunStart_Click();
+  });
+  mnuRunStart_Click();
+  EXPECT_EQ(" 0 1 2 3 4 6p 4 6p -1 4 5p 6 7", seen);
+}
+
+TEST_F(RunCommandsTest, SoundsFromTheFirstMoveOn) {
+  mnuToolsPlaySound.Checked = true;
+  Show(kProgram);
+  mnuRunStart_Click();
+  mnuToolsPlaySound.Checked = false;
+  mnuRunStart_Click();
+  EXPECT_THAT(Fakes::Sounds(),
+              testing::ElementsAre("/app\\sound\\fast.wav", "/app\\sound\\SLOW.wav",
+                                   "/app\\sound\\stop.wav", "/app\\sound\\stop.wav"));
 }
 
 TEST_F(RunCommandsTest, ACycleThatLacksItsSecondBlockDoesNotReachIntoTheNextRun) {
