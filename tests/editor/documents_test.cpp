@@ -80,6 +80,82 @@ TEST_F(DocumentsTest, SaveAsksForANameOnceAndTellsWhyItFails) {
   EXPECT_EQ("copy*: G03, /b/copy", State());
 }
 
+TEST_F(DocumentsTest, CancelInAFileDialogChangesNothing) {
+  Type("G01");
+  const auto asks = [](const char* name) {
+    Fakes::ExpectMessage({std::string("Save changes to ") + name + '?', kYesNoCancel + kQuestion,
+                          "Save Changes?", kYes});
+    Fakes::ExpectSaveDialog("");
+  };
+  for (const auto leave : {mnuFileNew_Click, mnuFileOpen_Click, CloseBox}) {
+    asks("Untitled");
+    leave();
+    EXPECT_EQ("Untitled*: G01,", State());
+  }
+  Type("");
+  // A file of this very name has none to save to.
+  Open("/a/Untitled", "G00");
+  Fakes::ExpectOpenDialog("");
+  mnuFileOpen_Click();
+  Type("G02");
+  asks("Untitled");
+  mnuFileExit_Click();
+  Fakes::ExpectSaveDialog("");
+  mnuFileSaveAS_Click();
+  EXPECT_EQ("Untitled*: G02, /a/Untitled", State());
+  EXPECT_EQ("G00", Fakes::FileBytes("/a/Untitled"));
+}
+
+TEST_F(DocumentsTest, AFileThatCannotBeOpenedLeavesTheDocumentAsItIs) {
+  SaveSetting("CNC", "RecentFilePaths", "0", "/gone");
+  Fakes::ExpectMessage({"no file /gone", kCritical, ""});
+  Form_Load();
+  EXPECT_EQ("Untitled: , /gone", State());
+  Open("/part.cnc", "G00");
+  Fakes::ExpectMessage({"no file /gone", kCritical, ""});
+  mnuFileRecentFiles_Click(1);
+  Fakes::ExpectOpenDialog("/no/more");
+  Fakes::ExpectMessage({"no file /no/more", kCritical, "Error!"});
+  mnuFileOpen_Click();
+  Fakes::ExpectMessage(
+      {"The file \"/long\" can't be opened: it has 32767 characters (a line end is "
+       "two), and a program can have at most 32766.",
+       kCritical, "Error!"});
+  Open("/long", std::string(32'767, 'G'));
+  EXPECT_EQ("part.cnc: G00, /part.cnc /gone", State());
+  EXPECT_EQ("G00", DebugWindow.TextMatrix(0, kTextColumn));
+  Open("/long", std::string(32'766, 'G'));
+  EXPECT_EQ(32'766U, TextEditor().Text().size());
+}
+
+TEST_F(DocumentsTest, AnEmptyFileCanBeStarted) {
+  Open("/empty.cnc", "");
+  for (const auto open : {+[] {}, +[] { mnuFileRecentFiles_Click(0); }}) {
+    open();
+    for (const char* key : {"Start", "Print", "Step"}) EXPECT_TRUE(Toolbar.Buttons(key).Enabled);
+    EXPECT_EQ(0, DebugWindow.Rows());
+    mnuFileNew_Click();
+  }
+}
+
+TEST_F(DocumentsTest, NewKeepsNothingOfTheFormerDocument) {
+  Open("/part.cnc", "[\xC3\xA4\nG00");
+  mnuViewDebugWindow_Click();
+  int cleared = 0;
+  picSim.Cls = [&] { ++cleared; };
+  mnuFileNew_Click();
+  EXPECT_EQ("Untitled: , /part.cnc", State());
+  EXPECT_EQ(1, DebugWindow.Rows());
+  EXPECT_EQ(1, cleared);
+  EXPECT_TRUE(TextEditor().Visible);
+  EXPECT_EQ("TextEditor", ActiveControl.Get());
+  Type("[\xE4");
+  Fakes::ExpectSaveDialog("/new.cnc");
+  mnuFileSave_Click();
+  EXPECT_EQ("", Fakes::OfferedName());
+  EXPECT_EQ("[\xE4", Fakes::FileBytes("/new.cnc"));
+}
+
 // The list is shared with a second window, which opens another file of the same name.
 TEST_F(DocumentsTest, OnlyTheDocumentsOwnFileIsSavedOver) {
   Open("/a/part.cnc", "G00");
@@ -113,15 +189,26 @@ TEST_F(DocumentsTest, SavingKeepsTheBytesOfAFile) {
       {bytes, bytes, bytes},
       {"G00\nX1\rZ2\r\n\n\r", "G00\r\nX1\r\nZ2\r\n\r\n\r\n", "G00\r\nX1\r\nZ2\r\n\r\n\r\n"},
       {"\xEF\xBB\xBF[\xC3\xA4\xE2\x82\xAC", "[\xE4\x80", "[\xC3\xA4\xE2\x82\xAC"},
-      // No UTF-8: cut off; then a character that the code page lacks.
-      {"[\xE2\x82", "[\xE2\x82", "[\xE2\x82"},
-      {"[\xE6\x97\xA5", "[\xE6\x97\xA5", "[\xE6\x97\xA5"}};
+      {"\xEF\xBB\xBFG00", "G00", "G00"},
+      {"[\xC2\x81\xC2\xA0\xC3\xBF\xC5\x93", "[\x81\xA0\xFF\x9C",
+       "[\xC2\x81\xC2\xA0\xC3\xBF\xC5\x93"}};
   for (const auto& [file, text, saved] : cases) {
     Open("/part.cnc", file);
     EXPECT_EQ(text, TextEditor().Text());
     EXPECT_EQ(text.substr(0, text.find('\r')), DebugWindow.TextMatrix(0, kTextColumn));
     mnuFileSave_Click();
     EXPECT_EQ(saved, Fakes::FileBytes("/part.cnc"));
+  }
+  // No UTF-8: cut off, no lead, longer than need be, of four bytes; characters that the code page
+  // lacks.
+  for (const std::string text :
+       {"[\xE2\x82", "[\xE2\x82G", "[\xE2G\x82", "[\xC3", "[\xC3G", "[\xC3\xE4", "[\x82",
+        "[\xBF\xBF", "[\xC1\xA9", "[\xE0\x81\xA9", "[\xF0\xA0\x82\xAC", "[\xC2\x80", "[\xC2\x9F",
+        "[\xC4\x80", "[\xE6\x97\xA5"}) {
+    Open("/part.cnc", text);
+    EXPECT_EQ(text, TextEditor().Text());
+    mnuFileSave_Click();
+    EXPECT_EQ(text, Fakes::FileBytes("/part.cnc"));
   }
 }
 

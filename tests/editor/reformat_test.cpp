@@ -35,10 +35,14 @@ TEST_F(ReformatTest, ColouringGivesEachByteTheColourOfItsClass) {
   settings.EditorCharacterColor = 'c';
   settings.EditorIntegerColor = 'i';
   settings.EditorCommentColor = 'm';
+  settings.EditorBackColor = 'b';
+  settings.EditorFontBold = 1;
+  settings.EditorFontName = "Mono";
+  settings.EditorFontSize = 14;
   const std::pair<std::string, std::string> rows[] = {
       {"G01 X-2.5", "ciiiciiii"},       {"gyZ@[", "ccc.m"},
       {"X+5,\t;\xE4", "c.i...."},       {"[A [b+\r\nX1", "mmmmmm..ci"},
-      {"[a\rb\n[c\r\n[", "mmmmmmm..m"},
+      {"[a\rb\n[c\r\n[", "mmmmmmm..m"}, {"", ""},
   };
   for (const auto& [text, classes] : rows) {
     RichText& buffer = frmMain::TextBuffer();
@@ -49,8 +53,26 @@ TEST_F(ReformatTest, ColouringGivesEachByteTheColourOfItsClass) {
     std::string shown;
     for (const TextFormat& format : FormatOfEachByte(frmMain::TextEditor().TextRTF())) {
       shown += static_cast<char>(format.color);
+      EXPECT_EQ((TextFormat{format.color, true, "Mono", 14}), format);
     }
     EXPECT_EQ(classes, shown) << text;
+    EXPECT_EQ(text, frmMain::TextEditor().Text());
+    EXPECT_EQ(Colour{'b'}, frmMain::TextEditor().BackColor.Get());
+    EXPECT_FALSE(frmMain::mnuFileSave.Enabled);
+  }
+}
+
+TEST_F(ReformatTest, ATextTooLongToColourStaysAsItIs) {
+  const FormattedText before = Open("G00 X1").TextRTF();
+  for (const std::size_t length : {32'767U, 32'766U}) {
+    const bool isTooLong = length > 32'766;
+    frmMain::TextBuffer().SetText(std::string(length, 'G'));
+    if (isTooLong) {
+      Fakes::ExpectMessage(
+          {"The text has 32767 characters; at most 32766 can be coloured.", 0, ""});
+    }
+    frmMain::ColourText();
+    EXPECT_EQ(isTooLong, before == frmMain::TextEditor().TextRTF());
   }
 }
 

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "editor/reformat.h"
+#include "mainwindow/view_toggles.h"
 #include "platform/code_page.h"
 #include "platform/numbers.h"
 #include "platform/text.h"
@@ -38,12 +39,15 @@ TEST_F(SyntaxCheckTest, StartShowsTheFirstFaultAndLosesNothing) {
     std::ifstream file(std::string(TURNBAY_SLIPS "/").append(name), std::ios::binary);
     const std::string bytes{std::istreambuf_iterator<char>(file), {}};
     RichText& editor = Open(bytes);
+    if (!frmMain::DebugWindow.Visible) frmMain::mnuViewDebugWindow_Click();
     frmMain::mnuRunStart_Click();
     const auto& message = Fakes::Messages().back();
     std::ostringstream told;
     told << name << ' ' << editor.SelStart() << ' ' << editor.SelLength() << ' ' << message.style
          << ' ' << message.title << ": " << message.text;
     EXPECT_EQ(expected, told.str());
+    const bool isFault = !message.text.starts_with("Billet");
+    EXPECT_TRUE(editor.Visible == isFault && frmMain::DebugWindow.Visible != isFault) << name;
     EXPECT_EQ(Substance(bytes), Substance(editor.Text()));
   }
   EXPECT_EQ(slips, Fakes::Messages().size());

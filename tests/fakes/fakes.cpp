@@ -46,8 +46,13 @@ bool AnswerDialog(bool isOpen, CommonDialog& dialog) {
     ADD_FAILURE() << "unexpected file dialog to " << (isOpen ? "open" : "save");
     return false;
   }
-  world.offeredName = std::exchange(dialog.FileName, TakeFirst(world.dialogs).second);
-  return true;
+  EXPECT_EQ("CNC Code Files|*.cnc|All Files|*.*", dialog.Filter);
+  EXPECT_EQ(6154, dialog.Flags);
+  EXPECT_TRUE(dialog.CancelError);
+  world.offeredName = dialog.FileName;
+  const std::string chosen = TakeFirst(world.dialogs).second;
+  if (!chosen.empty()) dialog.FileName = chosen;
+  return !chosen.empty();
 }
 
 std::string SettingName(std::string_view section, std::string_view key) {
@@ -67,6 +72,9 @@ void Fakes::Verify() {
 
 void Fakes::PutPicture(const std::string& path, const Raster& picture) {
   world.pictures[Normalized(path)] = picture;
+}
+void Fakes::RemovePicture(const std::string& path) {
+  world.pictures.erase(Normalized(path));
 }
 void Fakes::PutFile(const std::string& path, const std::string& bytes) {
   world.files[Normalized(path)] = bytes;
@@ -120,7 +128,9 @@ void ShowNotification(const std::string& text, int milliseconds, bool modal) {
 
 void ShowSplash() {}
 
-void SendKeys(const std::string& /*keys*/) {}
+void SendKeys(const std::string& keys) {
+  world.sentKeys += keys;
+}
 
 bool StartProgram(const std::string& /*program*/, const std::string& /*path*/) {
   return false;

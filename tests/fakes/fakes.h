@@ -33,6 +33,7 @@ struct FakeWorld {
   std::deque<std::pair<bool, std::string>> dialogs;
   std::string offeredName;
   bool ended = false;
+  std::string sentKeys;
   std::vector<int> sleeps;
   std::vector<std::string> sounds;
   std::map<std::string, Raster> pictures;
@@ -80,6 +81,7 @@ class Fakes {
   static void AtEachNotification(Action action) { world.atEachNotification = std::move(action); }
 
   // The next file dialog must be one to open, or to save, and this path is chosen.
+  // An empty path is the user's Cancel.
   static void ExpectOpenDialog(const std::string& path) { world.dialogs.emplace_back(true, path); }
   static void ExpectSaveDialog(const std::string& path) { world.dialogs.emplace_back(false, path); }
 
@@ -89,6 +91,9 @@ class Fakes {
   // True once the program has been told to end.
   static bool ProgramEnded() { return world.ended; }
 
+  // Keys that the program itself pressed, in order.
+  static const std::string& SentKeys() { return world.sentKeys; }
+
   // Milliseconds of every Sleep, and paths of every sound, in order.
   static const std::vector<int>& Sleeps() { return world.sleeps; }
   static const std::vector<std::string>& Sounds() { return world.sounds; }
@@ -96,6 +101,7 @@ class Fakes {
   // Paths are compared without regard to case and to the kind of separator. The application folder
   // is "/app".
   static void PutPicture(const std::string& path, const Raster& picture);
+  static void RemovePicture(const std::string& path);
   static void PutFile(const std::string& path, const std::string& bytes);
   static std::string FileBytes(const std::string& path);
   // Every later ReplaceFile fails with this reason, until it is empty.

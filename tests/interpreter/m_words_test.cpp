@@ -55,6 +55,7 @@ TEST_F(MWordsTest, ToolChangeLoadsTheNumberedToolOrLeavesTheOldOne) {
   // Entry of the tool list, description, fault.
   const std::string cases[][3] = {
       {"..\\..\\round.bmp", size, "isn't the name of a bitmap in the tool folder."},
+      {"roundbmp", size, "isn't the name of a bitmap in the tool folder."},
       {"blank.bmp", size, "no file /app\\tools\\blank.bmp Assign another bitmap"},
       {"round.bmp", "TOOLHEIGHT=30", "\"round.ini\" needs a width above 0"},
       {"round.bmp", "TOOLWIDTH=40\nTOOLHEIGHT=-3", "\"round.ini\" needs a height above 0"},
@@ -78,6 +79,10 @@ TEST_F(MWordsTest, ToolChangeLoadsTheNumberedToolOrLeavesTheOldOne) {
       EXPECT_THAT(Fakes::Messages().back().text, testing::HasSubstr(fault));
     }
   }
+  Fakes::RemovePicture("/app/tools/tool.bmp");
+  Play({"[BILLET X20 Z20"});
+  EXPECT_EQ("no file /app\\tools\\tool.bmp", Fakes::Messages().back().text);
+  EXPECT_TRUE(Graphics::ToolDC.sprite.Width() == 0 && Graphics::ToolWidth == 67);
 }
 
 }  // namespace

@@ -26,10 +26,23 @@ TEST_F(ToolFilesTest, ListTakesWhatItCan) {
   EXPECT_EQ("1:a;2: b .bmp ;3:x;", ReadList("3=x\n\n1=a=b.bmp\n2= b .bmp \r4="));
   EXPECT_THAT(frmToolSelect::cmbTools.List.Get(),
               testing::ElementsAre("Tool 3", "Tool 1", "Tool 2", "Tool 4"));
+  EXPECT_EQ("3:c;", ReadList("3=a\n3=b\n3=c"));
+  EXPECT_THAT(frmToolSelect::cmbTools.List.Get(), testing::ElementsAre("Tool 3"));
+  EXPECT_THAT(frmToolSelect::cmbTools.ItemData, testing::ElementsAre(3));
   EXPECT_EQ("0:h;2:g;5:last;",
             ReadList("a\r\n=b\r\nx=c\r\n21=d\r\n-1=e\r\n 2=g\r\n0=h\r\n5=i\n5=last"));
   EXPECT_EQ(std::string("2:a\0b;", 6), ReadList(std::string("2=a\0b\r\n\0=x\r\n4\0=y\r\n", 18)));
   EXPECT_EQ("2:b;", ReadList(std::string(2'000'000, '7') + "=a\r\n2=b"));
+}
+
+TEST_F(ToolFilesTest, AMissingListOffersEveryTool) {
+  frmToolSelect::GetToolList();
+  const auto& offered = frmToolSelect::cmbTools;
+  ASSERT_EQ(21U, offered.List.Get().size());
+  for (int n = 0; n <= 20; ++n) {
+    EXPECT_EQ("Tool " + std::to_string(n), offered.List.Get().at(static_cast<std::size_t>(n)));
+    EXPECT_EQ(n, offered.ItemData.at(static_cast<std::size_t>(n)));
+  }
 }
 
 TEST_F(ToolFilesTest, ListIsWrittenAsItWasReadOrStaysAsItWas) {
