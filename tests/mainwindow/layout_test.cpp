@@ -75,6 +75,21 @@ TEST_F(LayoutTest, EveryControlHasItsPlace) {
   EXPECT_EQ(kMaximized, WindowState);
 }
 
+TEST_F(LayoutTest, TheEditBoxLiesOverItsRow) {
+  Show({"G00", "G01", "G28"});
+  OpenEdit(2, "");
+  // Two rows of 285 twips below the tool bar, right of 350 and 300 twips.
+  EXPECT_EQ("43.33 76 72.04 19", Place(txtDebug.Bounds));
+  ScaleWidth = 1000;
+  Form_Resize();
+  EXPECT_EQ("43.33 76 182.7 19", Place(txtDebug.Bounds));
+  EXPECT_EQ(GlobalVariables::Settings.DebugFontName, txtDebug.FontName.Get());
+  EXPECT_EQ(10, txtDebug.FontSize);
+  DebugWindow.TopRow = 1;
+  txtDebug_Follow();
+  EXPECT_EQ("43.33 57 182.7 19", Place(txtDebug.Bounds));
+}
+
 TEST_F(LayoutTest, F2ShowsTheSurfaceAgain) {
   int shown = 0;
   picSim.Blt = [&](const Raster&, const PixelRect&) { ++shown; };
@@ -92,7 +107,12 @@ TEST_F(LayoutTest, TheViewLastsUntilTheNextStart) {
   EXPECT_EQ("-s-g", InView());
   StartAgain();
   EXPECT_EQ("-s-g", InView());
-  mnuViewDebugWindow_Click();
+  mnuViewTextEditor_Click();
+  StartAgain();
+  EXPECT_EQ("-se-", InView());
+  mnuViewTextEditor_Click();
+  StartAgain();
+  EXPECT_EQ("-s--", InView());
   mnuViewToolBar_Click();
   mnuViewStatusBar_Click();
   StartAgain();

@@ -5,6 +5,8 @@ N20 G01 Z-2
 [Rows without a G word cut on
 N30 X19
 N40 Z-4
+[Units leave it as it is
+N45 G21 Z-4.5
 [Dwell is modal too: its rows move nothing
 N50 G04 P2
 N60 X10 Z-8

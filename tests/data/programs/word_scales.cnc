@@ -11,3 +11,5 @@ N60 Z-6
 [U and W count from the position: radius 9.5 up to Z-9
 N70 U0.7 W-0
 N80 U0 W-3
+[U counts from the position, whatever the X in front of it: radius 9.9 at Z-9.5
+N90 X17 U0.6 Z-9.5
