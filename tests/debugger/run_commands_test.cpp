@@ -65,6 +65,7 @@ TEST_F(RunCommandsTest, ASecondStartKeepsNothingOfTheFirst) {
   mnuRunRunToBreakpoint_Click();
   EXPECT_EQ(30, DebugWindow.TopRow);
   Show(kProgram);
+  DebugWindow.TopRow = 3;
   int copies = 0;
   picSim.Blt = [&](const Raster&, const PixelRect&) { ++copies; };
   mnuRunStart_Click();
@@ -115,10 +116,13 @@ TEST_F(RunCommandsTest, SoundsFromTheFirstMoveOn) {
   Show(kProgram);
   mnuRunStart_Click();
   mnuToolsPlaySound.Checked = false;
+  Fakes::AtYield(3, mnuRunPause_Click);
+  Fakes::AtWait(mnuRunStart_Click);
   mnuRunStart_Click();
   EXPECT_THAT(Fakes::Sounds(),
               testing::ElementsAre("/app\\sound\\fast.wav", "/app\\sound\\SLOW.wav",
-                                   "/app\\sound\\stop.wav", "/app\\sound\\stop.wav"));
+                                   "/app\\sound\\stop.wav", "/app\\sound\\stop.wav",
+                                   "/app\\sound\\stop.wav"));
 }
 
 TEST_F(RunCommandsTest, ACycleThatLacksItsSecondBlockDoesNotReachIntoTheNextRun) {
