@@ -10,6 +10,7 @@ TEST_F(DebugGridTest, EveryLineIsARowWhoseMarkColumnTakesBreakPoints) {
   Show({"[BILLET X20 Z40", "", " g01 "});
   for (const int column : {kLineNumberColumn, kMarkColumn, kTextColumn}) Click(2, column);
   for (const int row : {-1, 0, 0, 3}) ClickMark(row);
+  EXPECT_EQ("[BILLET X20 Z40", DebugWindow.ToolTipText.Get());
   EXPECT_EQ("1 [ ]  [BILLET X20 Z40", ShownRow(0));
   EXPECT_EQ("2 [ ]  ", ShownRow(1));
   EXPECT_EQ("3 [*]   g01 ", ShownRow(2));

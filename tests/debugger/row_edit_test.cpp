@@ -35,6 +35,8 @@ TEST_F(RowEditTest, WhatTakesAnOpenEditOver) {
     EXPECT_EQ(c.taken ? "2 [*]   g00  x9 " : "2 [*]  G00 X2", ShownRow(1)) << c.name;
     EXPECT_EQ(RowsJoined(), TextEditor().Text()) << c.name;
     EXPECT_EQ(c.taken, IsOpen("Save")) << c.name;
+    EXPECT_TRUE(TextEditor().Visible || TextChanged == kFalse)
+        << "the next change of the view would drop the break points";
     txtDebug_KeyUp(27, 0);
   }
 }

@@ -177,9 +177,15 @@ TEST_F(DocumentsTest, TheRecentListLastsAndBringsFilesBack) {
   mnuFileRecentFiles_Click(2);
   EXPECT_EQ("d: d, /d /f /e /c /b", State());
   EXPECT_EQ("&4   c", mnuFileRecentFiles[3].Caption.Get());
-  ResetToProgramStart();
-  Form_Load();
-  EXPECT_EQ("d: d, /d /f /e /c /b", State());
+  for (const char* wanted : {"1", "0"}) {
+    SaveSetting("CNC", "General", "OpenLastFile", wanted);
+    SaveSetting("CNC", "General", "SplashScreen", wanted);
+    ResetToProgramStart();
+    Form_Load();
+    EXPECT_EQ((*wanted == '1' ? "d: d," : "Untitled: ,") + std::string(" /d /f /e /c /b"), State());
+    EXPECT_EQ("/app", com.InitDir);
+  }
+  EXPECT_EQ(2, Fakes::Splashes()) << "at the first start, and where it is wanted";
 }
 
 TEST_F(DocumentsTest, SavingKeepsTheBytesOfAFile) {

@@ -69,7 +69,9 @@ class DebuggerTest : public MachineTest {
     const auto& settings = GlobalVariables::Settings;
     const GridTable& grid = frmMain::DebugWindow;
     const CellFormat& text = grid.Format(row, frmMain::kTextColumn);
-    const GridPicture picture = grid.Format(row, frmMain::kMarkColumn).Picture;
+    const CellFormat& mark = grid.Format(row, frmMain::kMarkColumn);
+    const GridPicture picture = mark.Picture;
+    EXPECT_TRUE(picture == GridPicture::None || mark.PictureAlignment == 4) << "in the middle";
     const bool runs = picture == GridPicture::Step || picture == GridPicture::Both;
     const bool breaks = picture == GridPicture::Break || picture == GridPicture::Both;
     EXPECT_EQ(breaks ? "BP" : "", grid.TextMatrix(row, frmMain::kBreakColumn)) << "row " << row;

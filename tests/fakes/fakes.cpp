@@ -126,7 +126,9 @@ void ShowNotification(const std::string& text, int milliseconds, bool modal) {
   if (modal) Yield();
 }
 
-void ShowSplash() {}
+void ShowSplash() {
+  ++world.splashes;
+}
 
 void SendKeys(const std::string& keys) {
   world.sentKeys += keys;

@@ -33,6 +33,7 @@ struct FakeWorld {
   std::deque<std::pair<bool, std::string>> dialogs;
   std::string offeredName;
   bool ended = false;
+  int splashes = 0;
   std::string sentKeys;
   std::vector<int> sleeps;
   std::vector<std::string> sounds;
@@ -87,6 +88,9 @@ class Fakes {
 
   // The file name with which the last dialog came up.
   static const std::string& OfferedName() { return world.offeredName; }
+
+  // How often the splash window was shown.
+  static int Splashes() { return world.splashes; }
 
   // True once the program has been told to end.
   static bool ProgramEnded() { return world.ended; }

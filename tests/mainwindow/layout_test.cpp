@@ -77,7 +77,8 @@ TEST_F(LayoutTest, EveryControlHasItsPlace) {
 
 TEST_F(LayoutTest, TheEditBoxLiesOverItsRow) {
   Show({"G00", "G01", "G28"});
-  OpenEdit(2, "");
+  OpenEdit(2, "G28 ");
+  EXPECT_EQ(3, txtDebug.SelStart) << "behind the text of the row";
   // Two rows of 285 twips below the tool bar, right of 350 and 300 twips.
   EXPECT_EQ("43.33 76 72.04 19", Place(txtDebug.Bounds));
   ScaleWidth = 1000;

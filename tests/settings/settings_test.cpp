@@ -58,21 +58,19 @@ TEST_F(SettingsTest, WhatCannotBeReadTakesItsDefault) {
     const char* text;
     int height;
     Colour back;
-  } cases[] = {{"12.5", 12, 12},
-               {"13.5", 14, 14},
-               {"", 285, 0xFFFFFF},
-               {"red", 285, 0xFFFFFF},
-               {"32768", 285, 32768},
-               {"-3", -3, 0xFFFFFF},
-               {"16777216", 285, 0xFFFFFF},
-               {"1e3", 285, 0xFFFFFF},
-               {" 7 ", 7, 7}};
+  } cases[] = {{"12.5", 12, 12},       {"13.5", 14, 14},
+               {"", 285, 0xFFFFFF},    {"0", 0, 0},
+               {"red", 285, 0xFFFFFF}, {"32768", 285, 32768},
+               {"-3", -3, 0xFFFFFF},   {"16777216", 285, 0xFFFFFF},
+               {"1e3", 285, 0xFFFFFF}, {" 7 ", 7, 7}};
   for (const auto& c : cases) {
     SaveSetting("CNC", "Debug", "RowHeight", c.text);
     SaveSetting("CNC", "SimulationWindow", "BackColor", c.text);
+    SaveSetting("CNC", "Debug", "Font", c.text);
     LoadSettings();
     EXPECT_EQ(c.height, Settings.DebugRowHeight) << c.text;
     EXPECT_EQ(c.back, Settings.SimBackColor) << c.text;
+    EXPECT_EQ(*c.text == 0 ? "Courier New" : c.text, Settings.DebugFontName);
   }
 }
 
