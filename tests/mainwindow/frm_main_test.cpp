@@ -8,14 +8,18 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
+#include <QMenuBar>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QProgressBar>
 #include <QPushButton>
+#include <QSlider>
 #include <QTableView>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTextEdit>
 #include <QTimer>
+#include <QToolBar>
 #include <QToolButton>
 #include <QWindow>
 #include <gtest/gtest.h>
@@ -25,6 +29,7 @@
 #include "mainwindow/program_start.h"
 #include "platform/host/settings_store.h"
 #include "settings/settings.h"
+#include "tests/golden.h"
 
 namespace {
 
@@ -85,6 +90,66 @@ class WindowTest : public testing::Test {
                        grid.visualRect(grid.model()->index(row, 2)).center());
   }
 
+  int RowsBegun() const { return The<QProgressBar>("ProgressBar").value(); }
+  // Neither the picture of a run nor of its tool.
+  bool PictureIsEmpty() const {
+    const QImage picture = The<QWidget>("picSim").grab().toImage();
+    QImage background = picture;
+    background.fill(QColor::fromRgb(frmMain::picSim.BackColor));
+    return picture == background;
+  }
+  // What the user reads of an entry of a menu or of the tool bar, and whether it is to be had.
+  static QString Shown(const QAction& entry) {
+    if (entry.isSeparator()) return "-";
+    if (!entry.isVisible()) return "hidden";
+    QStringList words{entry.objectName(), '"' + entry.text() + '"', entry.shortcut().toString()};
+    const auto mode = entry.isEnabled() ? QIcon::Normal : QIcon::Disabled;
+    if (!entry.icon().isNull())
+      words += entry.icon().pixmap(16, mode).isNull() ? "lost icon" : "icon";
+    if (entry.isCheckable()) words += entry.isChecked() ? "[x]" : "[ ]";
+    words += entry.isEnabled() ? "open" : "closed";
+    words.removeAll("");
+    return words.join(' ');
+  }
+  std::string Menus() const {
+    QStringList lines;
+    QList<QMenu*> menus;
+    for (const QAction* action : window->menuBar()->actions()) menus += action->menu();
+    menus += &The<QMenu>("mnuToolBar");
+    for (const QMenu* menu : menus) {
+      lines += menu->objectName() + " \"" + menu->title() + "\" " +
+               (menu->menuAction()->isEnabled() ? "open" : "closed");
+      for (const QAction* entry : menu->actions()) lines += "  " + Shown(*entry);
+    }
+    return lines.join('\n').toStdString() + '\n';
+  }
+  std::string Bars() const {
+    QStringList lines;
+    for (const QAction* button : The<QToolBar>("Toolbar").actions()) {
+      lines += Shown(*button);
+      if (!button->isSeparator()) {
+        lines.back() += " label " + button->iconText() + ", tip " + button->toolTip();
+      }
+    }
+    const QWidget& bar = The<QWidget>("StatusBar");
+    lines += QString("StatusBar, height %1").arg(bar.height());
+    auto panels = bar.findChildren<QWidget*>(Qt::FindDirectChildrenOnly);
+    panels += &The<QSlider>("Slider");
+    panels += &The<QProgressBar>("ProgressBar");
+    for (const QWidget* panel : panels) {
+      const QPoint corner =
+          panel->mapTo(window.get(), QPoint()) - bar.mapTo(window.get(), QPoint());
+      lines += QString("%1 at %2 %3, %4 by %5, tip %6, \"%7\"")
+                   .arg(panel->objectName())
+                   .arg(corner.x())
+                   .arg(corner.y())
+                   .arg(panel->width())
+                   .arg(panel->height())
+                   .arg(panel->toolTip(), panel->accessibleName());
+    }
+    return lines.join('\n').toStdString() + '\n';
+  }
+
   // Acts once, at the first moment of a run at which `when` holds.
   template <class When, class Action>
   void Once(When when, Action action) {
@@ -122,6 +187,84 @@ TEST_F(WindowTest, ComesUpMaximizedWithTheCommandsThatNeedNoProgram) {
   EXPECT_FALSE(The<QAction>("mnuFileRecentFiles(0)").isEnabled());
   EXPECT_EQ("True", GetSetting("CNC", "Toolbar", "ShowLabels"));
   EXPECT_EQ(&The<QTextEdit>("TextEditor"), QApplication::focusWidget());
+}
+
+TEST_F(WindowTest, ShowsTheMenusAndBarsOfItsState) {
+  Store("General", "OpenLastFile", "0");
+  WriteProgram("part.cnc", kProgram);
+  Store("RecentFilePaths", "0", folder.filePath("part.cnc").toUtf8());
+  Open();
+  QApplication::processEvents();
+  ExpectGolden("menus_at_start", Menus());
+  ExpectGolden("bars_at_start", Bars());
+  Choose("mnuToolsPlaySound");
+  EXPECT_FALSE(The<QAction>("mnuToolsPlaySound").isChecked());
+  Choose("mnuFileRecentFiles(0)");
+  ExpectGolden("menus_with_program", Menus());
+  Once([this] { return RowsBegun() > 2; },
+       [&] {
+         ExpectGolden("menus_in_run", Menus());
+         QContextMenuEvent press(QContextMenuEvent::Mouse, {3, 3},
+                                 The<QToolButton>("New").mapToGlobal(QPoint(3, 3)));
+         QApplication::sendEvent(&The<QToolButton>("New"), &press);
+         EXPECT_FALSE(The<QMenu>("mnuToolBar").isVisible());
+         The<QSlider>("Slider").setValue(SliderControl::kMax);
+       });
+  Key(Qt::Key_F5);
+  ExpectGolden("bars_after_run", Bars());
+}
+
+TEST_F(WindowTest, OptionsKeepSaveAndTakeThePictureAwayUntilF2ShowsOneAnew) {
+  OpenWithProgram();
+  Once([this] { return !PictureIsEmpty(); }, [&] { The<QToolButton>("Stop").click(); });
+  Key(Qt::Key_F5);
+  Choose("mnuViewTextEditor");
+  QTest::keyClick(&The<QTextEdit>("TextEditor"), Qt::Key_X);
+  QTest::keyClick(&The<QTextEdit>("TextEditor"), Qt::Key_Backspace);
+  const auto confirm = [&] {
+    QTimer::singleShot(0, qApp,
+                       [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Return); });
+    The<QToolButton>("Options").click();
+  };
+  confirm();
+  EXPECT_TRUE(IsOpen("Save") && The<QAction>("mnuFileSave").isEnabled());
+  frmMain::EnableCommands("Save", false);
+  Once([this] { return !PictureIsEmpty(); }, [&] { The<QToolButton>("Stop").click(); });
+  The<QToolButton>("Start").click();
+  EXPECT_FALSE(PictureIsEmpty());
+  for (QWidget* user : {&The<QWidget>("DebugWindow"), &The<QWidget>("Slider")}) {
+    frmMain::picSim.Cls();
+    EXPECT_TRUE(PictureIsEmpty());
+    user->setFocus();
+    Key(Qt::Key_F2);
+    EXPECT_FALSE(PictureIsEmpty());
+  }
+  // A grab paints the area anew; the screen waits for this.
+  bool cleared = false;
+  frmMain::picSim.Cls = [&cleared, clear = frmMain::picSim.Cls] {
+    cleared = true;
+    clear();
+  };
+  confirm();
+  EXPECT_TRUE(cleared && PictureIsEmpty());
+  EXPECT_FALSE(IsOpen("Save"));
+}
+
+TEST_F(WindowTest, TheNextStartShowsTheViewsThatWereStored) {
+  for (const auto& [text, grid] :
+       {std::pair{"True", "False"}, {"False", "True"}, {"False", "False"}}) {
+    Store("ViewOptions", "TextEditor", text);
+    Store("ViewOptions", "DebugWindow", grid);
+    Store("ViewOptions", "Toolbar", grid);
+    OpenWithProgram();
+    EXPECT_EQ(QString(text) == "True", The<QWidget>("TextEditor").isVisible());
+    EXPECT_EQ(QString(grid) == "True", The<QWidget>("DebugWindow").isVisible());
+    EXPECT_EQ(QString(grid) == "True", The<QWidget>("Toolbar").isVisible());
+    EXPECT_EQ(QString(grid) == "True", The<QAction>("mnuViewDebugWindow").isChecked());
+    EXPECT_TRUE(The<QTextEdit>("TextEditor").toPlainText().startsWith("[BILLET"));
+    window.reset();
+    frmMain::ResetToProgramStart();
+  }
 }
 
 TEST_F(WindowTest, EveryViewIsLaidOutStoredAndComesBackAtTheNextStart) {
@@ -187,6 +330,19 @@ TEST_F(WindowTest, ARunIsPausedEditedSteppedAndStopped) {
   auto& position = The<QLabel>("ToolPosition");
   const auto x = [&] { return position.text().section(' ', 1, 1).toDouble(); };
   const auto z = [&] { return position.text().section(' ', 4, 4).toDouble(); };
+  Key(Qt::Key_F8);
+  EXPECT_TRUE(The<QAction>("mnuRunStepInto").isChecked());
+  Once([] { return frmMain::IsRunPaused(); },
+       [&] {
+         EXPECT_EQ(2, RowsBegun());
+         Key(Qt::Key_F5);
+       });
+  Once([&] { return frmMain::IsRunPaused() && RowsBegun() == 3; },
+       [&] {
+         The<QToolButton>("Step").click();
+         EXPECT_FALSE(The<QAction>("mnuRunStepInto").isChecked());
+         The<QToolButton>("Start").click();
+       });
   const QString fileMenuDuringRun = The<QTextEdit>("TextEditor").toPlainText();
   Once([&] { return z() < -1; },
        [&] {
@@ -221,8 +377,16 @@ TEST_F(WindowTest, ARunIsPausedEditedSteppedAndStopped) {
 TEST_F(WindowTest, ARowTakesPastedLinesAsOneAndIsFollowedByItsEdit) {
   OpenWithProgram();
   Choose("mnuViewDebugWindow");
-  DoubleClickRow(2);
   auto& box = The<QLineEdit>("txtDebug");
+  const auto liesOver = [&](int row) {
+    auto& rows = The<QTableView>("DebugWindow");
+    const QRect cell = rows.visualRect(rows.model()->index(row, 2));
+    return cell.translated(rows.viewport()->pos()).contains(box.geometry().center());
+  };
+  DoubleClickRow(1);
+  EXPECT_TRUE(liesOver(1));
+  DoubleClickRow(2);
+  EXPECT_TRUE(liesOver(2));
   box.selectAll();
   QApplication::clipboard()->setText("G01 X10\nZ-5");
   QTest::keyClick(&box, Qt::Key_V, Qt::ControlModifier);
@@ -233,6 +397,14 @@ TEST_F(WindowTest, ARowTakesPastedLinesAsOneAndIsFollowedByItsEdit) {
   window->resize(500, 400);
   EXPECT_TRUE(QTest::qWaitFor([&] { return grid.width() < width; }));
   EXPECT_LT(box.geometry().right(), grid.width());
+  const QWidget& form = *window->centralWidget();
+  for (const char* overlay : {"Slider", "ProgressBar"}) {
+    EXPECT_TRUE(QTest::qWaitFor([&] {
+      return The<QWidget>(overlay).y() == form.height() - 25 + 6;
+    })) << overlay;
+  }
+  EXPECT_EQ(QRect(0, form.height() - 25, form.width(), 25), The<QWidget>("StatusBar").geometry());
+  EXPECT_EQ(form.width(), The<QWidget>("Toolbar").width());
   // On a button that is closed, too.
   QContextMenuEvent press(QContextMenuEvent::Mouse, {3, 3},
                           The<QToolButton>("Pause").mapToGlobal(QPoint(3, 3)));

@@ -23,55 +23,87 @@ QWidget* Up(const char* name) {
   return nullptr;
 }
 
-TEST(SmallWindowsTest, AClickTurnsTheFadeAroundWhereItStands) {
-  int highest = 0;
-  QTimer user;
-  user.callOnTimeout([&] {
-    auto* box = dynamic_cast<FadingWindow*>(Up("frmSplash"));
-    if (box == nullptr) return;
-    highest = std::max(highest, qRound(box->windowOpacity() * 255));
-    if (highest == 95 && box->Timer1.isActive()) QTest::mouseClick(box, Qt::LeftButton);
-  });
-  user.start(0);
-  frmMain::mnuHelpAbout_Click();
-  EXPECT_EQ(100, highest);
+FadingWindow* Fading(const char* name) {
+  return dynamic_cast<FadingWindow*>(Up(name));
+}
+
+// Of a notification: the time that it still has, made 0.
+int EndTime(const FadingWindow& info) {
+  auto* timer = info.findChild<QTimer*>("Timer4");
+  const int time = timer->interval();
+  timer->setSingleShot(true);
+  timer->start(0);
+  return time;
+}
+
+TEST(SmallWindowsTest, AClickOrEscTurnsTheFadeAroundWhereItStands) {
+  for (const bool click : {true, false}) {
+    int highest = 0;
+    QTimer user;
+    user.callOnTimeout([&] {
+      FadingWindow* box = Fading("frmSplash");
+      if (box == nullptr) return;
+      highest = std::max(highest, qRound(box->windowOpacity() * 255));
+      if (highest != 95 || !box->Timer1.isActive()) return;
+      QTest::keyClick(box, Qt::Key_Return);
+      EXPECT_TRUE(box->Timer1.isActive()) << "another key";
+      click ? QTest::mouseClick(box, Qt::LeftButton) : QTest::keyClick(box, Qt::Key_Escape);
+    });
+    user.start(0);
+    frmMain::mnuHelpAbout_Click();
+    EXPECT_EQ(100, highest);
+  }
 }
 
 TEST(SmallWindowsTest, AModalNotificationTakesTheWindowOverForItsOwnTime) {
   ModCNC::DecodeMWord("M03");
-  QTimer::singleShot(300, qApp, [info = Up("frmInfo")] {
+  int time = 0;
+  QTimer user;
+  user.callOnTimeout([&] {
+    FadingWindow* info = Fading("frmInfo");
+    if (info == nullptr || info->Timer1.isActive() || time != 0) return;
+    EXPECT_TRUE(info->isModal());
     EXPECT_EQ(250 / 255.0, info->windowOpacity());
     EXPECT_EQ("Chuck OPEN", info->findChild<QWidget*>("lblInfo")->property("text").toString());
+    time = EndTime(*info);
   });
-  const QDeadlineTimer early(500), late(1900);
+  user.start(0);
   ModCNC::DecodeMWord("M10");
-  EXPECT_TRUE(early.hasExpired() && !late.hasExpired());
-  frmMain::ShowInfoWindow(0, 50);
-  EXPECT_TRUE(QTest::qWaitFor([] { return Up("frmInfo") == nullptr; }));
+  EXPECT_EQ(500, time);
+  EXPECT_EQ(nullptr, Up("frmInfo"));
 }
 
 TEST(SmallWindowsTest, AMessageBoxOutlivesTheNotificationThatIsActive) {
-  frmMain::ShowInfoWindow(0, 50);
+  frmMain::ShowInfoWindow(0, 30'000);
   Up("frmInfo")->activateWindow();
   ASSERT_TRUE(QTest::qWaitForWindowActive(Up("frmInfo")));
+  int time = 0;
   bool isUp = false;
   QTimer user;
   user.callOnTimeout([&] {
-    if (Up("frmInfo") != nullptr) return;
+    if (const FadingWindow* info = Fading("frmInfo")) {
+      if (time == 0) time = EndTime(*info);
+      return;
+    }
     QWidget* box = QApplication::activeModalWidget();
     isUp = box != nullptr;
     if (isUp) box->close();
     user.stop();
   });
-  user.start(50);
+  user.start(1);
   Desktop::MessageBox("Value of Radius is too small to draw");
+  EXPECT_EQ(30'000, time);
   EXPECT_TRUE(isUp);
 }
 
 TEST(SmallWindowsTest, TheProgramEndsBehindAModalNotification) {
   QTimer user;
-  user.callOnTimeout([] { frmMain::Form_Unload(); });
-  user.start(50);
+  user.callOnTimeout([&] {
+    if (Up("frmInfo") == nullptr) return;
+    user.stop();
+    frmMain::Form_Unload();
+  });
+  user.start(0);
   QMetaObject::invokeMethod(
       qApp, [] { ModCNC::DecodeMWord("M10"); }, Qt::QueuedConnection);
   EXPECT_EQ(0, QApplication::exec());

@@ -40,7 +40,9 @@ Q gluNewQuadric() {
 
 TEST(TurnedPartCallsTest, AreThoseOfTheFiles) {
   GlobalVariables::Settings.WorkPieceColor = Rgb(255, 0, 51);
+  int files = 0;
   for (const auto& file : std::filesystem::directory_iterator(TURNBAY_CALLS)) {
+    ++files;
     calls.str("");
     std::string expected;
     std::ifstream lines(file.path());
@@ -58,6 +60,8 @@ TEST(TurnedPartCallsTest, AreThoseOfTheFiles) {
       }
       part.DrawWorld();
     }
+    EXPECT_NE("", expected) << file.path();
     EXPECT_EQ(expected, calls.str()) << file.path();
   }
+  EXPECT_LT(0, files);
 }
