@@ -1,5 +1,6 @@
 #include <gmock/gmock.h>
 
+#include "mainwindow/command.h"
 #include "motion/player.h"
 #include "motion/tool.h"
 #include "tests/fakes/debugger_test.h"
@@ -83,7 +84,7 @@ TEST_F(RunCommandsTest, AResumeTakesAnEditedRowAsItStands) {
     PressEnter();
     OpenEdit(3, " Y1 (no good)");
   });
-  Fakes::AtWait(mnuRunStart_Click);
+  Fakes::AtWait([] { Command(mnuRunStart_Click).Choose(); });
   mnuRunStart_Click();
   EXPECT_EQ("[BILLET X20 Z40\r\nG00 X30 Z1\r\n\r\n Y1 (no good)", TextEditor().Text());
   EXPECT_TRUE(IsOpen("Save"));

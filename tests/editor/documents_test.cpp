@@ -132,7 +132,7 @@ TEST_F(DocumentsTest, AnEmptyFileCanBeStarted) {
   Open("/empty.cnc", "");
   for (const auto open : {+[] {}, +[] { mnuFileRecentFiles_Click(0); }}) {
     open();
-    for (const char* key : {"Start", "Print", "Step"}) EXPECT_TRUE(Toolbar.Buttons(key).Enabled);
+    for (const char* key : {"Start", "Print", "Step"}) EXPECT_TRUE(Toolbar.Find(key)->Enabled);
     EXPECT_EQ(0, DebugWindow.Rows());
     mnuFileNew_Click();
   }
