@@ -2,33 +2,33 @@
 
 namespace ModCNC {
 
-std::int16_t TargetX = 0;
-std::int16_t TargetZ = 0;
-std::int16_t ActiveG = 0;
-std::int16_t CurrentX = 0;
-std::int16_t CurrentZ = 0;
-std::int16_t FeedRate = 0;
-std::int16_t WordI = 0;
-std::int16_t WordK = 0;
-std::int16_t WordP = 0;
-std::int16_t WordQ = 0;
-std::int16_t WordR = 0;
-std::int16_t ToolNumber = 0;
-std::int16_t SpindleSpeed = 0;
-std::int16_t WordU = 0;
-std::int16_t WordW = 0;
-std::int16_t RadiusGiven = kFalse;
+std::int16_t TargetX;
+std::int16_t TargetZ;
+std::int16_t ActiveG;
+std::int16_t CurrentX;
+std::int16_t CurrentZ;
+std::int16_t FeedRate;
+std::int16_t WordI;
+std::int16_t WordK;
+std::int16_t WordP;
+std::int16_t WordQ;
+std::int16_t WordR;
+std::int16_t ToolNumber;
+std::int16_t SpindleSpeed;
+std::int16_t WordU;
+std::int16_t WordW;
+std::int16_t RadiusGiven;
 
 }  // namespace ModCNC
 
 namespace GlobalVariables {
 
-std::int16_t BilletZ = 0;
-std::int16_t BilletX = 0;
-std::int16_t CurrentRow = 0;
-std::int16_t StopRequested = kFalse;
-std::int16_t RunToBreakpoint = kFalse;
-RunOutcome LastRun = RunOutcome::None;
+std::int16_t BilletZ;
+std::int16_t BilletX;
+std::int16_t CurrentRow;
+std::int16_t StopRequested;
+std::int16_t RunToBreakpoint;
+RunOutcome LastRun;
 
 }  // namespace GlobalVariables
 

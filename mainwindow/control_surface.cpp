@@ -16,19 +16,6 @@ namespace {
 constexpr double kToolBarHeight = 38;
 constexpr double kStatusBarHeight = 25;
 
-GridTable HiddenGrid() {
-  GridTable grid;
-  grid.Visible = false;
-  return grid;
-}
-
-std::array<RecentFileEntry, 4> NoRecentFiles() {
-  std::array<RecentFileEntry, 4> entries;
-  entries[0].Loaded = true;
-  entries[0].Caption = std::string(kNoRecentFiles);
-  return entries;
-}
-
 }  // namespace
 
 ToolBar::ToolBar() {
@@ -46,29 +33,29 @@ StatusBarControl::StatusBarControl() {
   }
 }
 
-int ScaleWidth = 0;
-int ScaleHeight = 0;
-Property<int> WindowState = kNormal;
+int ScaleWidth;
+int ScaleHeight;
+Property<int> WindowState;
 
 ToolBar Toolbar;
 
 MenuEntry mnuFile;
 MenuEntry mnuFileSave;
 MenuEntry mnuFilePrint;
-std::array<RecentFileEntry, 4> mnuFileRecentFiles = NoRecentFiles();
+std::array<RecentFileEntry, 4> mnuFileRecentFiles;
 MenuEntry mnuView;
-MenuEntry mnuViewStatusBar{.Checked = true};
-MenuEntry mnuViewToolBar{.Checked = true};
-MenuEntry mnuViewTextEditor{.Checked = true};
+MenuEntry mnuViewStatusBar;
+MenuEntry mnuViewToolBar;
+MenuEntry mnuViewTextEditor;
 MenuEntry mnuViewDebugWindow;
 MenuEntry mnuRunStart;
 MenuEntry mnuRunPause;
 MenuEntry mnuRunStop;
 MenuEntry mnuRunStepInto;
 MenuEntry mnuTools;
-MenuEntry mnuToolsPlaySound{.Checked = true};
+MenuEntry mnuToolsPlaySound;
 MenuEntry mnuHelp;
-MenuEntry mnuToolBarShowLabels{.Checked = true};
+MenuEntry mnuToolBarShowLabels;
 
 StatusBarControl StatusBar;
 ProgressGauge ProgressBar;
@@ -77,12 +64,12 @@ PictureBox picSim;
 CommonDialog com;
 std::string Tag;
 Property<std::string_view> ActiveControl;
-GridTable DebugWindow = HiddenGrid();
+GridTable DebugWindow;
 TextBox txtDebug;
 Property<ControlBounds> TextEditorBounds;
-std::int16_t SaveWasEnabled = kFalse;
-std::int16_t TextChanged = kFalse;
-std::int16_t WindowClosed = kFalse;
+std::int16_t SaveWasEnabled;
+std::int16_t TextChanged;
+std::int16_t WindowClosed;
 
 namespace {
 
@@ -167,14 +154,17 @@ void ResetControlSurface() {
                            &mnuToolsPlaySound, &mnuToolBarShowLabels}) {
     *entry = {.Checked = true};
   }
-  mnuFileRecentFiles = NoRecentFiles();
+  mnuFileRecentFiles = {};
+  mnuFileRecentFiles[0].Loaded = true;
+  mnuFileRecentFiles[0].Caption = std::string(kNoRecentFiles);
   com = {};
   Tag.clear();
   ActiveControl = Property<std::string_view>();
   ProgressBar = {};
   Slider = {};
   picSim = {};
-  DebugWindow = HiddenGrid();
+  DebugWindow = {};
+  DebugWindow.Visible = false;
   txtDebug = {};
   TextEditorBounds = ControlBounds{};
   textBuffer = {};
@@ -192,7 +182,7 @@ void ResetControlSurface() {
 
 namespace GlobalVariables {
 
-std::int16_t SimWidth = 0;
-std::int16_t SimHeight = 0;
+std::int16_t SimWidth;
+std::int16_t SimHeight;
 
 }  // namespace GlobalVariables
