@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "interpreter/machine.h"
+#include "interpreter/run_driver.h"
 #include "mainwindow/control_surface.h"
 #include "platform/host/desktop.h"
 #include "platform/virtual_keys.h"
@@ -19,7 +20,7 @@ namespace {
 constexpr std::int16_t kNoModifier = 0;
 constexpr std::int16_t kShiftAlone = 1;
 
-constexpr std::string_view kOfferedWord = "BILLET";
+constexpr std::string_view kOfferedWord = ModCNC::kBilletMark.substr(1);
 
 bool IsBetween(std::int16_t value, std::int16_t low, std::int16_t high) {
   return value >= low && value <= high;
