@@ -16,8 +16,9 @@ TEST_F(MWordsTest, PanelsAndNotificationsAreKept) {
   constexpr const char* kPanels[] = {"SpindleSpeed", "SpindleDirection", "Coolant", "FeedRate"};
   std::string seen;
   for (const std::string key : kPanels) {
-    StatusBar.Find(key)->Text.Watch(
-        [&seen, key](const std::string& text) { seen += "; " + key + " \"" + text + '"'; });
+    StatusBar.Find(key)->Text.Watch([&seen, key](const std::string& text) {
+      seen.append("; ").append(key).append(" \"").append(text) += '"';
+    });
   }
   Toolbar.Buttons("Pause").Enabled.Watch([&](bool open) {
     if (!open) seen += Toolbar.Buttons("New").Enabled ? "; stop" : "; pause";
