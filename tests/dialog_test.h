@@ -93,9 +93,9 @@ class DialogTest : public TemporaryFolderTest {
     for (const char* property :
          {"text", "title", "plainText", "currentText", "accessibleName", "toolTip"}) {
       const QString value = control.property(property).toString().replace('\n', " / ");
-      if (!value.isEmpty())
-        says += QString(" %1=\"%2\"")
-                    .arg(property, value.trimmed() == value ? value : '|' + value + '|');
+      if (value.isEmpty()) continue;
+      says +=
+          QString(" %1=\"%2\"").arg(property, value.trimmed() == value ? value : '|' + value + '|');
     }
     for (const char* property : {"checked", "default"}) {
       if (control.property(property).toBool()) says += QString(" ") + property;

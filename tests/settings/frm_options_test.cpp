@@ -60,9 +60,9 @@ TEST_F(OptionsDialogTest, EveryControlStoresItsSettingAndShowsItTheNextTime) {
     for (std::size_t i = 0; const auto& row : GlobalVariables::kSettingRows) {
       const std::string text = GetSetting(GlobalVariables::kApplication, row.section, row.key);
       const std::string& old = before[i++];
-      if (text != old)
-        stored +=
-            ' ' + std::string(row.section) + '/' + std::string(row.key) + ' ' + old + " -> " + text;
+      if (text == old) continue;
+      stored.append(" ").append(row.section).append("/").append(row.key);
+      stored.append(" ").append(old).append(" -> ").append(text);
     }
     stored += '\n';
     WhenShown([&](QWidget*) { EXPECT_EQ(chosen, shown()) << what; });
@@ -91,26 +91,28 @@ TEST_F(OptionsDialogTest, EveryControlStoresItsSettingAndShowsItTheNextTime) {
         },
         shown);
   }
-  // A list, an entry of it, and the swatch of both.
-  std::vector<std::tuple<const char*, int, const char*>> colours = {
+  struct Choice {
+    const char* list;
+    int entry;
+    const char* swatch;
+  };
+  std::vector<Choice> colours = {
       {nullptr, 0, "lblWPColor"}, {nullptr, 0, "lblBackColor"}, {nullptr, 0, "lblEffectColor"}};
-  for (int entry = 0; entry < 4; ++entry)
-    colours.emplace_back("cmbEditorColours", entry, "lblEditorColor");
-  for (int entry = 0; entry < 7; ++entry)
-    colours.emplace_back("cmbDebugColors", entry, "lblDebugColor");
-  for (int red = 100; const auto& [list, entry, swatch] : colours) {
+  for (int i = 0; i < 4; ++i) colours.push_back({"cmbEditorColours", i, "lblEditorColor"});
+  for (int i = 0; i < 7; ++i) colours.push_back({"cmbDebugColors", i, "lblDebugColor"});
+  for (int red = 100; const Choice& choice : colours) {
     const auto shown = [=] {
-      if (list != nullptr) The<QComboBox>(list).setCurrentIndex(entry);
-      QWidget& label = The<QWidget>(swatch);
+      if (choice.list != nullptr) The<QComboBox>(choice.list).setCurrentIndex(choice.entry);
+      QWidget& label = The<QWidget>(choice.swatch);
       return label.grab().toImage().pixelColor(label.rect().center());
     };
-    const std::string what =
-        list == nullptr ? swatch : list + std::string(" ") + DecimalText(entry);
+    std::string what = choice.swatch;
+    if (choice.list != nullptr) what = choice.list + std::string(" ") + DecimalText(choice.entry);
     change(
         what,
         [=, this] {
           shown();
-          Pick(swatch, QColor(red, 1, 2));
+          Pick(choice.swatch, QColor(red, 1, 2));
           return shown();
         },
         shown);
