@@ -7,6 +7,7 @@
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
@@ -104,8 +105,11 @@ class WindowTest : public testing::Test {
     if (!entry.isVisible()) return "hidden";
     QStringList words{entry.objectName(), '"' + entry.text() + '"', entry.shortcut().toString()};
     const auto mode = entry.isEnabled() ? QIcon::Normal : QIcon::Disabled;
-    if (!entry.icon().isNull())
-      words += entry.icon().pixmap(16, mode).isNull() ? "lost icon" : "icon";
+    const QIcon icon = entry.icon();
+    if (!icon.isNull()) {
+      const bool isLost = icon.pixmap(16, mode).isNull() || icon.availableSizes(mode).isEmpty();
+      words += isLost ? "lost icon" : "icon";
+    }
     if (entry.isCheckable()) words += entry.isChecked() ? "[x]" : "[ ]";
     words += entry.isEnabled() ? "open" : "closed";
     words.removeAll("");
@@ -147,6 +151,9 @@ class WindowTest : public testing::Test {
                    .arg(panel->height())
                    .arg(panel->toolTip(), panel->accessibleName());
     }
+    for (const char* name :
+         {"TextEditor", "DebugWindow", "txtDebug", "picSim", "Toolbar", "StatusBar"})
+      lines += QString("%1, \"%2\"").arg(name, The<QWidget>(name).accessibleName());
     return lines.join('\n').toStdString() + '\n';
   }
 
@@ -199,6 +206,11 @@ TEST_F(WindowTest, ShowsTheMenusAndBarsOfItsState) {
   ExpectGolden("bars_at_start", Bars());
   Choose("mnuToolsPlaySound");
   EXPECT_FALSE(The<QAction>("mnuToolsPlaySound").isChecked());
+  auto& slider = The<QSlider>("Slider");
+  for (const Qt::Key key : {Qt::Key_PageUp, Qt::Key_Right}) QTest::keyClick(&slider, key);
+  EXPECT_EQ(6, frmMain::Slider.Value);
+  frmMain::Slider.Value = 0;
+  EXPECT_EQ(0, slider.value());
   Choose("mnuFileRecentFiles(0)");
   ExpectGolden("menus_with_program", Menus());
   Once([this] { return RowsBegun() > 2; },
@@ -208,10 +220,55 @@ TEST_F(WindowTest, ShowsTheMenusAndBarsOfItsState) {
                                  The<QToolButton>("New").mapToGlobal(QPoint(3, 3)));
          QApplication::sendEvent(&The<QToolButton>("New"), &press);
          EXPECT_FALSE(The<QMenu>("mnuToolBar").isVisible());
-         The<QSlider>("Slider").setValue(SliderControl::kMax);
+         slider.setValue(SliderControl::kMax);
        });
   Key(Qt::Key_F5);
   ExpectGolden("bars_after_run", Bars());
+}
+
+TEST_F(WindowTest, TheToolBarIsLaidOutAnewAndComesBackByReset) {
+  Open();
+  QStringList lines;
+  QTimer::singleShot(0, qApp, [&] {
+    QWidget* dialog = QApplication::activeModalWidget();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(dialog));
+    auto& list = *dialog->findChild<QListWidget*>("lstButtons");
+    lines += dialog->windowTitle();
+    QTest::keyClick(dialog->windowHandle(), Qt::Key_B, Qt::AltModifier);
+    EXPECT_TRUE(list.hasFocus());
+    // Without a button Space takes or sets the tick.
+    for (const auto& [row, button] : {std::pair{0, "Move &Up"},
+                                      {0, "Move &Down"},
+                                      {11, "Move &Down"},
+                                      {10, "Move &Down"},
+                                      {11, "Move &Up"},
+                                      {2, ""},
+                                      {2, "Move &Down"},
+                                      {1, ""},
+                                      {1, ""},
+                                      {5, "&Reset"}}) {
+      list.setCurrentRow(row);
+      if (*button == 0) QTest::keyClick(&list, Qt::Key_Space);
+      for (auto* known : dialog->findChildren<QPushButton*>()) {
+        if (known->text() == button) known->click();
+      }
+      lines += QString("%1 %2:").arg(row).arg(button);
+      for (int i = 0; i < list.count(); ++i) {
+        const QListWidgetItem& item = *list.item(i);
+        lines.back() += (i == list.currentRow() ? " >" : " ") + item.text() +
+                        (item.checkState() == Qt::Checked ? "" : "*") +
+                        (item.icon().isNull() == (item.text() == "Separator") ? "" : " lost icon");
+      }
+      lines += "  bar:";
+      for (const QAction* action : The<QToolBar>("Toolbar").actions()) {
+        if (action->isVisible())
+          lines.back() += ' ' + (action->isSeparator() ? "-" : action->text());
+      }
+    }
+    QTest::keyClick(dialog, Qt::Key_Escape);
+  });
+  Choose("mnuToolBarCustomize");
+  ExpectGolden("tool_bar_layout", lines.join('\n').toStdString() + '\n');
 }
 
 TEST_F(WindowTest, OptionsKeepSaveAndTakeThePictureAwayUntilF2ShowsOneAnew) {

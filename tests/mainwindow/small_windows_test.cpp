@@ -64,6 +64,9 @@ TEST(SmallWindowsTest, AModalNotificationTakesTheWindowOverForItsOwnTime) {
     if (info == nullptr || info->Timer1.isActive() || time != 0) return;
     EXPECT_TRUE(info->isModal());
     EXPECT_EQ(250 / 255.0, info->windowOpacity());
+    const QRect screen = info->screen()->geometry();
+    EXPECT_EQ(QRect(screen.right() - 414, screen.top() + qRound(screen.height() * 0.8), 408, 52),
+              info->geometry());
     EXPECT_EQ("Chuck OPEN", info->findChild<QWidget*>("lblInfo")->property("text").toString());
     time = EndTime(*info);
   });
@@ -120,6 +123,18 @@ TEST(SmallWindowsTest, WithoutAViewerTheManualOpensInOneWindow) {
   QTest::keyClick(pages, Qt::Key_Tab);
   QTest::keyClick(pages, Qt::Key_Return);
   EXPECT_EQ("getting_started.html", pages->property("source").toUrl().fileName());
+  const QRect screen = pages->screen()->availableGeometry();
+  EXPECT_EQ(screen.center() - Up("frmHelp")->rect().center(), Up("frmHelp")->pos());
+  EXPECT_EQ(pages, QApplication::focusWidget());
+  for (const auto& [button, text, page] : {std::tuple{"cmdBack", "&Back", "index.html"},
+                                           {"cmdForward", "&Forward", "getting_started.html"},
+                                           {"cmdContents", "&Contents", "index.html"}}) {
+    auto* action = Up("frmHelp")->findChild<QAction*>(button);
+    EXPECT_TRUE(action->isEnabled()) << button;
+    EXPECT_EQ(text, action->text());
+    action->trigger();
+    EXPECT_EQ(page, pages->property("source").toUrl().fileName());
+  }
   QTest::keyClick(pages, Qt::Key_Escape);
   EXPECT_EQ(nullptr, Up("frmHelp"));
 }

@@ -13,6 +13,8 @@
 namespace {
 
 constexpr QRgb kRed = 0xFFFF0000;
+constexpr QRgb kGreen = 0xFF00FF00;
+constexpr QRgb kBlue = 0xFF0000FF;
 constexpr QRgb kEmptyArea = 0xFF4466A6;
 
 class GridViewTest : public testing::Test {
@@ -31,8 +33,11 @@ class GridViewTest : public testing::Test {
   }
   QString MarkFolder() {
     QImage mark(19, 18, QImage::Format_RGB32);
-    mark.fill(kRed);
-    mark.save(pictures.filePath("Break.png"));
+    for (const auto& [name, colour] :
+         {std::pair{"Break", kRed}, {"Step", kGreen}, {"Both", kBlue}}) {
+      mark.fill(colour);
+      mark.save(pictures.filePath(QString(name) + ".png"));
+    }
     return pictures.path();
   }
   void Fill(int rows) {
@@ -96,12 +101,17 @@ TEST_F(GridViewTest, TopRowAndTheScrollBarFollowEachOther) {
 
 TEST_F(GridViewTest, CellsShowTheirFormats) {
   table.Select(1, 1);
-  table.SetCellPicture(GridPicture::Break);
   table.SetCellPictureAlignment(4);
+  for (const auto& [picture, colour, name] : {std::tuple{GridPicture::Step, kGreen, "Step"},
+                                              {GridPicture::Both, kBlue, "Both"},
+                                              {GridPicture::Break, kRed, "Break"}}) {
+    table.SetCellPicture(picture);
+    EXPECT_EQ(colour, Pixel(30 + 10, 19 + 9));
+    EXPECT_EQ(name, view.model()->index(1, 1).data(Qt::AccessibleTextRole));
+  }
   table.Select(2, 2);
   table.SetCellBackColor(Rgb(1, 2, 3));
   const int numbers = 30;
-  EXPECT_EQ(kRed, Pixel(numbers + 10, 19 + 9));
   EXPECT_NE(kRed, Pixel(numbers + 10, 9));
   EXPECT_EQ(0xFF010203, Pixel(numbers + 20 + 50, 2 * 19 + 1));
   EXPECT_EQ(0xFFC0C0C0, Pixel(numbers + 20 + 50, 2 * 19 + 18));
