@@ -4,6 +4,8 @@
 #include "mainwindow/control_surface.h"
 #include "platform/host/settings_store.h"
 #include "platform/numbers.h"
+#include "platform/qt/views/colours.h"
+#include "platform/qt/views/qt_rich_text.h"
 #include "settings/frm_options_debug.h"
 #include "tests/dialog_test.h"
 #include "tests/golden.h"
@@ -31,6 +33,52 @@ class OptionsDialogTest : public DialogTest {
     Press("chkShowLineNumber");
     Pick("lblBackColor", QColor(7, 8, 9), true);
   }
+  // What the samples of the pages show: stretches of the text, cells of the rows, and the picture
+  // from its left edge on, at these heights below its axis.
+  static QStringList Samples() {
+    QStringList lines;
+    const auto name = [](Colour colour) { return ToQColor(colour).name(); };
+    const auto& text = The<QtRichText>("richSample");
+    for (const auto& [start, format] : text.TextRTF().runs) {
+      lines += QString("text %1: %2 on %3, %4 %5")
+                   .arg(QString::number(start), name(format.color), name(text.BackColor),
+                        QString::fromStdString(format.fontName), QString::number(format.fontSize)) +
+               (format.bold ? " bold" : "");
+    }
+    const auto& page = dynamic_cast<frmOptions::DebugPage&>(*The<QTabWidget>("SSTab").widget(1));
+    const GridTable& rows = page.Sample();
+    for (int row = 0; row < rows.Rows(); ++row) {
+      for (int column = 0; column <= frmMain::kTextColumn; ++column) {
+        const CellFormat& format = rows.Format(row, column);
+        lines += QString("cell %1 %2: %3 by %4, %5 on %6, %7 %8, picture %9 %10, lines %11, ")
+                     .arg(row)
+                     .arg(column)
+                     .arg(rows.ColWidth(column))
+                     .arg(rows.RowHeight(row))
+                     .arg(name(format.ForeColor), name(format.BackColor),
+                          QString::fromStdString(rows.FontNameOf(format)))
+                     .arg(format.FontSize)
+                     .arg(static_cast<int>(format.Picture))
+                     .arg(format.PictureAlignment)
+                     .arg(rows.GridLines()) +
+                 (format.FontBold ? "bold " : "") + rows.TextMatrix(row, column).c_str();
+      }
+    }
+    auto& picture = The<QFrame>("picSample");
+    const QRect inner = picture.contentsRect();
+    const QPoint axis(inner.left(), inner.top() + inner.height() / 2);
+    const QImage image = picture.grab().toImage();
+    for (const int y : {0, 20, 21, 30, 31}) {
+      lines += QString("picture %1:").arg(y);
+      for (int x = 0; x < 123; ++x) {
+        const auto colour = [&](int at) { return image.pixelColor(axis + QPoint(at, y)).name(); };
+        if (x == 0 || colour(x) != colour(x - 1))
+          lines.back() += QString(" %1 %2").arg(x).arg(colour(x));
+      }
+    }
+    const QPoint tool = picture.findChild<QLabel*>("Image1")->pos() - axis;
+    return lines += QString("tool at %1 %2").arg(tool.x()).arg(tool.y());
+  }
   static std::vector<std::string> StoredTexts() {
     std::vector<std::string> texts;
     for (const auto& row : GlobalVariables::kSettingRows) {
@@ -41,7 +89,10 @@ class OptionsDialogTest : public DialogTest {
 };
 
 TEST_F(OptionsDialogTest, ShowsItsPagesWithTheirControls) {
-  WhenShown([](QWidget* dialog) { ExpectGolden("options", Describe(*dialog)); });
+  WhenShown([](QWidget* dialog) {
+    const std::string controls = Describe(*dialog);
+    ExpectGolden("options", controls + Samples().join('\n').toStdString() + '\n');
+  });
   frmMain::mnuToolsOptions_Click();
 }
 
@@ -51,8 +102,13 @@ TEST_F(OptionsDialogTest, EveryControlStoresItsSettingAndShowsItTheNextTime) {
                           const std::function<QVariant()>& shown) {
     const auto before = StoredTexts();
     QVariant chosen;
+    QStringList former;
+    QStringList samples;
     WhenShown([&](QWidget*) {
+      for (int page = 0; page < 3; ++page) The<QTabWidget>("SSTab").setCurrentIndex(page);
+      former = Samples();
       chosen = act();
+      samples = Samples();
       Press("cmdOK");
     });
     frmMain::mnuToolsOptions_Click();
@@ -65,6 +121,9 @@ TEST_F(OptionsDialogTest, EveryControlStoresItsSettingAndShowsItTheNextTime) {
       stored.append(" ").append(old).append(" -> ").append(text);
     }
     stored += '\n';
+    for (const QString& line : samples) {
+      if (!former.contains(line)) stored += "  " + line.toStdString() + '\n';
+    }
     WhenShown([&](QWidget*) { EXPECT_EQ(chosen, shown()) << what; });
     frmMain::mnuToolsOptions_Click();
   };
@@ -154,9 +213,24 @@ TEST_F(OptionsDialogTest, ChangeStoreAndWindowsWithOkAlone) {
       EXPECT_EQ(size, sample.Format(1, 2).FontSize);
       EXPECT_EQ(size > 9 ? size - 2 : size, sample.Format(1, 0).FontSize);
     }
-    QWidget* cells = The<QAbstractScrollArea>("DebugSample").viewport();
-    QTest::mousePress(cells, Qt::LeftButton, {}, {60, 2 * 19});
-    QTest::mouseMove(cells, {60, 2 * 19 + 8});
+    auto& grid = The<QAbstractScrollArea>("DebugSample");
+    QWidget* cells = grid.viewport();
+    for (const auto& [from, to, shape] :
+         {std::tuple{QPoint(20, 10), QPoint(24, 10), Qt::SplitHCursor},
+          {QPoint(60, 2 * 19), QPoint(60, 2 * 19 + 8), Qt::SplitVCursor}}) {
+      QTest::mouseMove(cells, from);
+      EXPECT_EQ(shape, cells->cursor().shape());
+      QTest::mousePress(cells, Qt::LeftButton, {}, from);
+      QTest::mouseMove(cells, to);
+      QTest::mouseRelease(cells, Qt::LeftButton, {}, to);
+    }
+    EXPECT_EQ(285, sample.RowHeight(3));
+    QTest::mouseDClick(cells, Qt::LeftButton, {}, {60, 25});
+    EXPECT_EQ(285 + 8 * 15, sample.RowHeight(3));
+    for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Down, Qt::Key_Up, Qt::Key_Right, Qt::Key_Right,
+                              Qt::Key_Right, Qt::Key_Left}) {
+      QTest::keyClick(&grid, key, Qt::ControlModifier);
+    }
     for (const char* name : {"cmdEditorDefault", "cmdDebugDefault", "cmdSimDefaults", "cmdOK"}) {
       Press(name);
     }
@@ -165,7 +239,9 @@ TEST_F(OptionsDialogTest, ChangeStoreAndWindowsWithOkAlone) {
   frmMain::TextEditor().SetSelFontSize(30);
   frmMain::mnuToolsOptions_Click();
   expected = GlobalVariables::DefaultSettings();
-  expected.DebugRowHeight = 285 + 8 * 15;
+  expected.DebugRowHeight = 285 + 9 * 15;
+  expected.DebugC1Width = 300 + 4 * 15;
+  expected.DebugC2Width = 3500 + 2 * 15;
   EXPECT_TRUE(expected == Settings);
   EXPECT_EQ(expected.EditorFontSize, frmMain::TextEditor().SelFontSize()) << "without a text, too";
 }
