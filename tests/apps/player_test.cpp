@@ -82,7 +82,7 @@ TEST_F(PlayerTest, WritesProfileAndReportWithTheToolsOfAnotherFolder) {
   Put("p.cnc", "[BILLET X4 Z.2\nG00 X8 Z1 T03 M00 M06\nG00 X3 Z0.5\nG01 Z-0.1");
   const QStringList options = {"--size", "90x60", "--report", "-", "p.cnc"};
   EXPECT_EQ(0, Run(options + QStringList{"--profile", "p.csv", "--tools", "."}));
-  EXPECT_TRUE(err_.contains("gone.")) << err_.toStdString();
+  EXPECT_TRUE(err_.contains("Error! Tool 3 can")) << err_.toStdString();
   const QJsonObject report = Report();
   EXPECT_EQ(1, report["resumes"].toInt());
   EXPECT_EQ("z_mm,radius_mm,taper\n0,1.5,0\n-0.1,1.5,0\n-0.2,2,0\n", Bytes("p.csv"));
