@@ -59,7 +59,7 @@ TEST_F(MWordsTest, ToolChangeLoadsTheNumberedToolOrLeavesTheOldOne) {
       {"roundbmp", size, "isn't the name of a bitmap in the tool folder."},
       {"blank.bmp", size, "no file /app\\tools\\blank.bmp Assign another bitmap"},
       {"round.bmp", "TOOLHEIGHT=30", "\"round.ini\" needs a width above 0"},
-      {"round.bmp", "TOOLWIDTH=40\nTOOLHEIGHT=-3", "\"round.ini\" needs a height above 0"},
+      {"round.bmp", "TOOLWIDTH=1\nTOOLHEIGHT=-3", "\"round.ini\" needs a height above 0"},
       {"round.bmp", size, ""}};
   Fakes::PutPicture("/app/tools/old.bmp", TriangleTool(50, 30));
   Fakes::PutFile("/app/tools/old.ini", "TOOLWIDTH=50\r\nTOOLHEIGHT=30");

@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <QRegularExpression>
 #include <QTemporaryFile>
 #include <QTest>
 #include <gtest/gtest.h>
@@ -12,6 +13,7 @@
 #include "mainwindow/notifications.h"
 #include "mainwindow/program_start.h"
 #include "platform/host/desktop.h"
+#include "tests/golden.h"
 
 namespace {
 
@@ -139,16 +141,40 @@ TEST(SmallWindowsTest, WithoutAViewerTheManualOpensInOneWindow) {
   EXPECT_EQ(nullptr, Up("frmHelp"));
 }
 
+// What the pages of a file show, in order: of each stretch of text its colour, its size and its
+// characters, which a file numbers as they first come up, and each line that is drawn.
+std::string Drawn(const QByteArray& file) {
+  static const QRegularExpression marks("([\\d. ]+) scn|/F\\d+ (\\d+) Tf|<00(..)> Tj|(l)\nS");
+  QString drawn;
+  for (qsizetype at = 0; (at = file.indexOf("\nstream\n", at) + 8) > 8;) {
+    if (file[at] != 'x') continue;
+    const QString content = qUncompress(QByteArray(4, '\0') + file.mid(at));
+    if (!content.contains("Tj")) continue;
+    drawn += "\npage";
+    for (const auto& mark : marks.globalMatch(content)) {
+      drawn += (mark.hasCaptured(1) ? "\n" : " ") + mark.captured(mark.lastCapturedIndex());
+    }
+  }
+  return drawn.toStdString() + '\n';
+}
+
 TEST(SmallWindowsTest, LongLinesGoOnAndOnlyThePagesAskedForAreMade) {
-  const auto pagesOf = [](std::size_t length, int from, int to) {
+  const auto print = [](const Listing& listing, int from, int to) {
     QTemporaryFile file("XXXXXX.pdf");
     QPrinter printer(QPrinter::HighResolution);
     printer.setOutputFileName(file.open() ? file.fileName() : "");
     printer.setFromTo(from, to);
-    EXPECT_TRUE(PrintListing({"A", {std::string(length, 'X'), {{}}}, {"Courier", 10}}, printer));
-    return file.readAll().count("/Type /Page\n");
+    EXPECT_TRUE(PrintListing(listing, printer));
+    return file.readAll();
   };
-  EXPECT_EQ(2, pagesOf(20'000, 2, 3));
+  const QByteArray file = print({"A", {std::string(20'000, 'X'), {{}}}, {"Courier", 10}}, 2, 3);
+  EXPECT_EQ(2, file.count("/Type /Page\n"));
+  const TextFormat light{Rgb(255, 255, 200), true, "", 20};
+  ExpectGolden("listing",
+               Drawn(print({"Title",
+                            {"G00\r\nX1\r\n", {{0, {Rgb(1, 2, 3), false, "", 0}}, {6, light}}},
+                            {"Courier", 10}},
+                           0, 0)));
 }
 
 }  // namespace

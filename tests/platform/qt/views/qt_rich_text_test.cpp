@@ -12,6 +12,7 @@
 #include "editor/editor_events.h"
 #include "mainwindow/control_surface.h"
 #include "platform/host/desktop.h"
+#include "platform/qt/views/colours.h"
 #include "settings/settings.h"
 #include "tests/platform/rich_text_contract.h"
 
@@ -152,6 +153,19 @@ TEST_F(QtEditorTest, CharactersBeyondTheCodePageAreRefused) {
   composed.setCommitString(QString::fromUtf8("\u00FCz"));
   QApplication::sendEvent(&editor, &composed);
   EXPECT_EQ("\x80 \xE4\x96\xA0\xFCZ", editor.Text());
+}
+
+TEST_F(QtEditorTest, CaretAndSelectionStayInSightOnEachBackground) {
+  for (const auto& [back, caret] :
+       {std::pair{Rgb(1, 2, 3), Qt::white}, {Rgb(250, 250, 0), Qt::black}}) {
+    editor.BackColor = back;
+    const QPalette shown = editor.palette();
+    EXPECT_EQ(ToQColor(back), editor.grab().toImage().pixelColor(90, 90));
+    EXPECT_EQ(QColor(caret), shown.color(QPalette::Text));
+    for (const auto role : {QPalette::Highlight, QPalette::HighlightedText}) {
+      EXPECT_EQ(shown.color(QPalette::Active, role), shown.color(QPalette::Inactive, role));
+    }
+  }
 }
 
 TEST_F(QtEditorTest, ALockedEditorIsReadAndCopiedOnly) {
