@@ -148,7 +148,6 @@ GridView::GridView(GridTable& table, const QString& pictureFolder, QWidget* pare
   setShowGrid(false);
   setWordWrap(false);
   setSelectionMode(QAbstractItemView::NoSelection);
-  setEditTriggers(QAbstractItemView::NoEditTriggers);
   setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
   setTabKeyNavigation(false);
   QPalette colours = palette();

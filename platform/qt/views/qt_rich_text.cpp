@@ -65,7 +65,6 @@ class FormatCache {
 }  // namespace
 
 QtRichText::QtRichText(QWidget* parent) : QTextEdit(parent) {
-  setAcceptRichText(false);
   setLineWrapMode(QTextEdit::NoWrap);
   SetBackground(*this, BackColor);
   BackColor.Watch([this](Colour background) { SetBackground(*this, background); });
