@@ -372,6 +372,8 @@ TEST_F(WindowTest, TypingRaisesLettersOffersTheBilletAndOpensTheCommands) {
   QTest::keyClick(&editor, Qt::Key_Return);
   QApplication::processEvents();
   QTest::keyClicks(&editor, "x20 z40");
+  QTest::keyClick(&editor, Qt::Key_Tab);
+  EXPECT_NE(&editor, QApplication::focusWidget());
   EXPECT_EQ("[BILLET X20 Z40", editor.toPlainText());
   EXPECT_TRUE(IsOpen("Save") && IsOpen("Start") && IsOpen("Step") && IsOpen("Print"));
   EXPECT_FALSE(IsOpen("Pause") || IsOpen("Stop"));
@@ -435,6 +437,8 @@ TEST_F(WindowTest, ARowTakesPastedLinesAsOneAndIsFollowedByItsEdit) {
   OpenWithProgram();
   Choose("mnuViewDebugWindow");
   auto& box = The<QLineEdit>("txtDebug");
+  EXPECT_EQ(QColor(Qt::white), box.palette().color(QPalette::Base));
+  EXPECT_EQ(QColor(Qt::black), box.palette().color(QPalette::Text));
   const auto liesOver = [&](int row) {
     auto& rows = The<QTableView>("DebugWindow");
     const QRect cell = rows.visualRect(rows.model()->index(row, 2));

@@ -25,13 +25,15 @@ class DialogsTest : public testing::Test {
   QString PathOf(const char* name) const { return folder.filePath(name); }
 
   // Enters a name as soon as the dialog is up.
-  static void WhenShown(const QString& name) {
-    QTimer::singleShot(0, qApp, [name] {
+  void WhenShown(const QString& name, const char* title) const {
+    QTimer::singleShot(0, qApp, [this, name, title] {
       auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
       ASSERT_NE(nullptr, dialog);
+      EXPECT_EQ(title, dialog->windowTitle());
       EXPECT_EQ(QStringList({"CNC Code Files (*.cnc)", "All Files (*)"}), dialog->nameFilters());
       auto* edit = dialog->findChild<QLineEdit*>("fileNameEdit");
       ASSERT_NE(nullptr, edit);
+      EXPECT_EQ(QFileInfo(QString::fromStdString(com.FileName)).fileName(), edit->text());
       edit->setText(name);
       QTest::keyClick(edit, Qt::Key_Return);
     });
@@ -42,16 +44,16 @@ class DialogsTest : public testing::Test {
 };
 
 TEST_F(DialogsTest, AFileThatExistsIsOpened) {
-  WhenShown(PathOf("part.cnc"));
+  WhenShown(PathOf("part.cnc"), "Open");
   EXPECT_TRUE(com.ShowOpen());
   EXPECT_EQ(PathOf("part.cnc").toStdString(), com.FileName);
 }
 
 TEST_F(DialogsTest, SavingOverAFileAsksFirst) {
-  WhenShown(PathOf("new"));
+  WhenShown(PathOf("new"), "Save As");
   EXPECT_TRUE(com.ShowSave());
   EXPECT_EQ(PathOf("new").toStdString(), com.FileName) << "no extension is added";
-  WhenShown(PathOf("part.cnc"));
+  WhenShown(PathOf("part.cnc"), "Save As");
   bool asked = false;
   QTimer::singleShot(1, qApp, [&] {
     auto* question = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());

@@ -67,7 +67,8 @@ TEST_F(GridViewTest, ClicksTellTheCellUnderThePointer) {
   ClickCell(100, 5);
   QTest::mouseClick(view.viewport(), Qt::RightButton, {}, {100, 5});
   QTest::mouseClick(view.verticalHeader()->viewport(), Qt::LeftButton, {}, {5, 2 * 19 + 5});
-  EXPECT_EQ("click 3 1, click 0 2, click 2 0, ", heard);
+  QTest::mouseDClick(view.verticalHeader()->viewport(), Qt::LeftButton, {}, {5, 2 * 19 + 5});
+  EXPECT_EQ("click 3 1, click 0 2, click 2 0, double 2 0, ", heard);
   table.TopRow = 40;
   Fill(45);
   heard.clear();
@@ -115,6 +116,13 @@ TEST_F(GridViewTest, CellsShowTheirFormats) {
   EXPECT_NE(kRed, Pixel(numbers + 10, 9));
   EXPECT_EQ(0xFF010203, Pixel(numbers + 20 + 50, 2 * 19 + 1));
   EXPECT_EQ(0xFFC0C0C0, Pixel(numbers + 20 + 50, 2 * 19 + 18));
+  const auto shown = [&](int x, int width) { return view.grab({x, 0, width, 19}).toImage(); };
+  const QImage number = shown(0, numbers);
+  const QImage text = shown(numbers + 20, 100);
+  table.SetTextMatrix(0, 0, "1");
+  table.SetTextMatrix(0, 2, "M30");
+  EXPECT_NE(number, shown(0, numbers));
+  EXPECT_NE(text, shown(numbers + 20, 100));
   table.SetGridLines(0);
   EXPECT_EQ(0xFF010203, Pixel(numbers + 20 + 50, 2 * 19 + 18));
   Fill(3);

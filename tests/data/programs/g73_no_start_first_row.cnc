@@ -1,0 +1,8 @@
+M25
+[A RANGE WITHOUT A START BEGINS WITH THE FIRST ROW
+[Quill Extend: once, and once in each of two passes
+[BILLET X40 Z12
+G00 X42 Z5
+G73 U2 W0 R2
+G73 P99 Q10 U0 W0
+N10 M26
