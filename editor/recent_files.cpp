@@ -75,7 +75,7 @@ void BuildRecentFilesMenu() {
 }
 
 std::string GetFileName(std::string_view filePath) {
-  const std::size_t separator = filePath.find_last_of("/\\");
+  const std::size_t separator = filePath.rfind('/');
   if (separator != std::string_view::npos) filePath.remove_prefix(separator + 1);
   return std::string(filePath);
 }

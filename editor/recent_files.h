@@ -19,7 +19,7 @@ void UpdateRecentFiles(const std::string& filePath, std::int16_t index);
 // Brings the paths into the entries of mnuFileRecentFiles.
 void BuildRecentFilesMenu();
 
-// The part behind the last separator of either kind, or the whole path.
+// The part behind the last "/", or the whole path.
 std::string GetFileName(std::string_view filePath);
 
 }  // namespace frmMain

@@ -14,9 +14,9 @@
 #include <algorithm>
 
 #include "platform/host/desktop.h"
+#include "platform/host/files.h"
 #include "platform/host/pictures.h"
 #include "platform/qt/host/dialog_owner.h"
-#include "platform/qt/host/paths.h"
 #include "platform/qt/views/colours.h"
 #include "platform/qt/views/picture_strip.h"
 #include "platform/qt/views/raster_image.h"
@@ -82,7 +82,7 @@ QPushButton* MakeButton(const char* name, const QString& caption) {
 
 QStringList BitmapNames() {
   QStringList names;
-  const QDir folder(QString::fromStdString(ResolvePath(GlobalVariables::ToolFolder())));
+  const QDir folder(QString::fromStdString(AssetPath(GlobalVariables::ToolFolder())));
   for (const QString& name :
        folder.entryList({"*.bmp"}, QDir::Files, QDir::Name | QDir::IgnoreCase)) {
     if (GlobalVariables::IsBareBitmapName(name.toStdString())) names += name;

@@ -37,7 +37,7 @@ bool EqualsIgnoringCase(std::string_view text, std::string_view upperCase) {
 }
 
 std::string ListPath() {
-  return GlobalVariables::ToolFolder() + "ToolList.ini";
+  return AssetPath(GlobalVariables::ToolFolder() + "ToolList.ini");
 }
 
 std::string ItemText(int toolNumber) {
@@ -80,7 +80,7 @@ std::string DescriptionPath(const std::string& bitmapPath) {
 
 bool ReadToolSize(const std::string& bitmapPath, std::int16_t& height, std::int16_t& width,
                   std::string& reason) {
-  const auto bytes = ReadFile(DescriptionPath(bitmapPath), reason);
+  const auto bytes = ReadFile(AssetPath(DescriptionPath(bitmapPath)), reason);
   if (!bytes) return false;
   ForEachRecord(*bytes, [&](std::string_view key, std::string_view value) {
     const auto number = ParseInt16(Trim(value));
@@ -103,7 +103,7 @@ std::optional<ToolDescription> ReadToolDescription(const std::string& bitmapPath
       {"TOOLHEIGHT", &ToolDescription::Height},
       {"CUTTINGPOINT", &ToolDescription::CuttingPoint},
   };
-  const auto bytes = ReadFile(DescriptionPath(bitmapPath), reason);
+  const auto bytes = ReadFile(AssetPath(DescriptionPath(bitmapPath)), reason);
   if (!bytes) return std::nullopt;
   ToolDescription description;
   ForEachRecord(*bytes, [&](std::string_view key, std::string_view value) {

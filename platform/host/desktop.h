@@ -46,8 +46,8 @@ inline void ShowError(const std::string& reason) {
 void SendKeys(const std::string& keys);
 inline constexpr const char* kRightArrowKeys = "{RIGHT}";
 
-// Starts another program, found as the shell finds it, with the path of a file, and goes on at
-// once. False when it couldn't start.
+// Starts another program, found as the shell finds it, with the path of an asset, and goes on
+// at once. False when it couldn't start.
 bool StartProgram(const std::string& program, const std::string& path);
 
 // Ends the program with status 0, as soon as the handlers that run have returned and without asking
@@ -58,7 +58,8 @@ void EndProgram();
 constexpr int kSoundAsync = 1;
 constexpr int kSoundLoop = 8;
 
-// Plays a wave file, replacing the sound before. A file that can't be played is silence.
+// Plays a wave file of the assets, replacing the sound before. A file that can't be played is
+// silence.
 void sndPlaySoundA(const std::string& path, int flags);
 
 }  // namespace Desktop

@@ -4,12 +4,18 @@
 #include <string>
 #include <string_view>
 
-// Files by path. A path is UTF-8. One that uses "\" as well as "/" is found without regard to case.
-// On failure `reason` says why in words that a user knows, with the file's name.
+// Files by path. A path is UTF-8 and taken as it is: "\" is a letter of a name, and "Part.cnc" and
+// "part.cnc" are two files. On failure `reason` says why in words that a user knows, with the
+// file's name.
 
 // The folder that holds tools, sounds, samples and the help: in a build tree that of the program
 // file, else the installed one or the user's own copy of it. No separator at its end.
 std::string ApplicationFolder();
+
+// The path of an asset as this system spells it, for paths that the program itself puts together. A
+// "\" in it divides folders unless a file or folder is so named, and what isn't there is found
+// without regard to case.
+std::string AssetPath(const std::string& path);
 
 // The largest file that is read, in bytes; far beyond any program.
 constexpr int kMaxFileSize = 64 * 1024 * 1024;

@@ -4,7 +4,6 @@
 #include "platform/host/files.h"
 #include "platform/posix/descriptor.h"
 #include "platform/posix/error_words.h"
-#include "platform/qt/host/paths.h"
 
 namespace {
 
@@ -35,10 +34,9 @@ std::string Read(const std::string& path, std::string& bytes) {
 }  // namespace
 
 std::optional<std::string> ReadFile(const std::string& path, std::string& reason) {
-  const std::string resolved = ResolvePath(path);
   std::string bytes;
-  const std::string why = Read(resolved, bytes);
+  const std::string why = Read(path, bytes);
   if (why.empty()) return bytes;
-  reason = "The file \"" + resolved + "\" can't be read: " + why + '.';
+  reason = "The file \"" + path + "\" can't be read: " + why + '.';
   return std::nullopt;
 }

@@ -6,7 +6,6 @@
 #include "platform/host/files.h"
 #include "platform/posix/descriptor.h"
 #include "platform/posix/error_words.h"
-#include "platform/qt/host/paths.h"
 
 // The new bytes go to a file without a name, which vanishes with the process. Once they are on the
 // disk, that file gets a name beside the old one and is renamed over it. QSaveFile does the same,
@@ -132,9 +131,8 @@ std::string Replace(const fs::path& path, std::string_view bytes) {
 }  // namespace
 
 bool ReplaceFile(const std::string& path, std::string_view bytes, std::string& reason) {
-  const std::string resolved = ResolvePath(path);
-  const std::string why = Replace(FollowLinks(resolved), bytes);
+  const std::string why = Replace(FollowLinks(path), bytes);
   if (why.empty()) return true;
-  reason = "The file \"" + resolved + "\" can't be written: " + why + '.';
+  reason = "The file \"" + path + "\" can't be written: " + why + '.';
   return false;
 }

@@ -81,11 +81,11 @@ TEST_F(PlayerTest, WritesProfileAndReportWithTheToolsOfAnotherFolder) {
   Put("ToolList.ini", "3=gone.bmp\r\n");
   Put("p.cnc", "[BILLET X4 Z.2\nG00 X8 Z1 T03 M00 M06\nG00 X3 Z0.5\nG01 Z-0.1");
   const QStringList options = {"--size", "90x60", "--report", "-", "p.cnc"};
-  EXPECT_EQ(0, Run(options + QStringList{"--profile", "p.csv", "--tools", "."}));
+  EXPECT_EQ(0, Run(options + QStringList{"--profile", "out_a\\b.csv", "--tools", "."}));
   EXPECT_TRUE(err_.contains("Error! Tool 3 can")) << err_.toStdString();
   const QJsonObject report = Report();
   EXPECT_EQ(1, report["resumes"].toInt());
-  EXPECT_EQ("z_mm,radius_mm,taper\n0,1.5,0\n-0.1,1.5,0\n-0.2,2,0\n", Bytes("p.csv"));
+  EXPECT_EQ("z_mm,radius_mm,taper\n0,1.5,0\n-0.1,1.5,0\n-0.2,2,0\n", Bytes("out_a\\b.csv"));
   // Run to break point shows nothing, yet leaves the same picture of these feed moves.
   EXPECT_EQ(0, Run(options + QStringList{"--run-to-breakpoint", "--tools", ".", "--turned-part",
                                          "p.png", "--turned-part-size", "60x40"}));

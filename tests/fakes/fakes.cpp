@@ -180,6 +180,10 @@ std::string ApplicationFolder() {
   return "/app";
 }
 
+std::string AssetPath(const std::string& path) {
+  return path;
+}
+
 std::optional<std::string> ReadFile(const std::string& path, std::string& reason) {
   return Find(world.files, path, reason);
 }

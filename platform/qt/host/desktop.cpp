@@ -7,7 +7,7 @@
 #include <chrono>
 #include <thread>
 
-#include "platform/qt/host/paths.h"
+#include "platform/host/files.h"
 
 namespace Desktop {
 
@@ -56,7 +56,7 @@ void SendKeys(const std::string& keys) {
 
 bool StartProgram(const std::string& program, const std::string& path) {
   return QProcess::startDetached(QString::fromStdString(program),
-                                 {QString::fromStdString(ResolvePath(path))});
+                                 {QString::fromStdString(AssetPath(path))});
 }
 
 // Unlike quit(), this asks no window.

@@ -1,7 +1,7 @@
-#include "platform/qt/host/paths.h"
-
 #include <QDir>
 #include <QFileInfo>
+
+#include "platform/host/files.h"
 
 namespace {
 
@@ -16,18 +16,17 @@ QString MatchingEntry(const QString& folder, const QString& name) {
 
 }  // namespace
 
-std::string ResolvePath(const std::string& path) {
-  QString given = QString::fromStdString(path);
-  // A path of this system's own is exact: "Part.cnc" and "part.cnc" are two files of the user.
-  if (!given.contains('\\') || QFileInfo::exists(given)) return path;
-  QString resolved;
-  const QStringList parts = given.replace('\\', '/').split('/');
-  for (qsizetype i = 0; i < parts.size(); ++i) {
-    const QString folder = resolved.isEmpty() && i == 0 ? "." : resolved;
-    if (i > 0) resolved += '/';
-    const QString& name = parts[i];
-    const bool exists = name.isEmpty() || QFileInfo::exists(resolved + name);
-    resolved += exists ? name : MatchingEntry(folder.isEmpty() ? "/" : folder, name);
+std::string AssetPath(const std::string& path) {
+  const QStringList parts = QString::fromStdString(path).split('\\');
+  QString resolved = parts[0];
+  for (const QString& part : parts.mid(1)) {
+    // The folders above the assets have names that the user chose.
+    if (QFileInfo::exists(resolved + '\\' + part)) {
+      resolved += '\\' + part;
+    } else {
+      const bool isThere = part.isEmpty() || QFileInfo::exists(resolved + '/' + part);
+      resolved += '/' + (isThere ? part : MatchingEntry(resolved, part));
+    }
   }
   return resolved.toStdString();
 }

@@ -5,7 +5,6 @@
 #include <QImageReader>
 
 #include "platform/host/files.h"
-#include "platform/qt/host/paths.h"
 #include "platform/qt/views/raster_image.h"
 
 namespace {
@@ -25,9 +24,10 @@ bool IsTooLarge(const QSize& size) {
 }  // namespace
 
 std::optional<Raster> LoadPicture(const std::string& path, std::string& reason) {
-  const auto bytes = ReadFile(path, reason);
+  const std::string asset = AssetPath(path);
+  const auto bytes = ReadFile(asset, reason);
   if (!bytes) return std::nullopt;
-  const QString resolved = QString::fromStdString(ResolvePath(path));
+  const QString resolved = QString::fromStdString(asset);
   // One byte more than there is: whoever reads that far misses some.
   QByteArray padded = QByteArray::fromStdString(*bytes) + '\0';
   QBuffer buffer(&padded);

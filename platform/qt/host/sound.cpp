@@ -5,7 +5,7 @@
 #include <QUrl>
 
 #include "platform/host/desktop.h"
-#include "platform/qt/host/paths.h"
+#include "platform/host/files.h"
 
 namespace {
 
@@ -28,7 +28,7 @@ void sndPlaySoundA(const std::string& path, int flags) {
     qAddPostRoutine(DeleteSound);
   }
   sound->stop();
-  sound->setSource(QUrl::fromLocalFile(QString::fromStdString(ResolvePath(path))));
+  sound->setSource(QUrl::fromLocalFile(QString::fromStdString(AssetPath(path))));
   sound->setLoopCount((flags & kSoundLoop) != 0 ? int{QSoundEffect::Infinite} : 1);
   sound->play();
 }
