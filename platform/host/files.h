@@ -24,6 +24,8 @@ constexpr int kMaxFileSize = 64 * 1024 * 1024;
 std::optional<std::string> ReadFile(const std::string& path, std::string& reason);
 
 // Replaces a file as a whole or not at all, even if the program is killed in the middle: after a
-// failure the old file is as it was. Permissions stay. Through a link the file that it leads to is
-// replaced, and the link stays.
+// failure the old file is as it was. Owner, group, mode, access list, extended attributes and other
+// names of the file stay; where a new file can't have them the old one is written over, from a copy
+// that lies beside it meanwhile. Through a link the file that it leads to is replaced, and the link
+// stays.
 bool ReplaceFile(const std::string& path, std::string_view bytes, std::string& reason);

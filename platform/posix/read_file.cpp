@@ -1,9 +1,11 @@
 #include <cerrno>
+#include <filesystem>
 #include <sys/stat.h>
 
 #include "platform/host/files.h"
 #include "platform/posix/descriptor.h"
 #include "platform/posix/error_words.h"
+#include "platform/posix/save_names.h"
 
 namespace {
 
@@ -11,6 +13,10 @@ namespace {
 std::string Read(const std::string& path, std::string& bytes) {
   // Bytes read at a time.
   constexpr std::size_t kPartSize = 65'536;
+  const std::filesystem::path copy = SafetyCopyName(FollowLinks(path));
+  if (access(copy.c_str(), F_OK) == 0) {
+    return "it was cut off as it was saved, and what it held is in \"" + copy.string() + '"';
+  }
   Descriptor file;
   // A pipe without a writer would keep the program waiting in open.
   if (!file.Open(path, O_RDONLY | O_NONBLOCK)) return ErrorWords(errno);
