@@ -45,6 +45,13 @@ bool MayDropDocument() {
   return true;
 }
 
+bool MayOverwrite() {
+  return Desktop::MessageBox(
+             '"' + DocumentName() + "\" has been changed by another program. Overwrite it?",
+             Desktop::kYesNo + Desktop::kQuestion + Desktop::kDefaultButton2,
+             "Save Changes?") == Desktop::kYes;
+}
+
 void PrepareFileDialog() {
   com.CancelError = true;
   com.Flags = CommonDialog::kFileFlags;
@@ -108,16 +115,10 @@ void mnuFileSave_Click() {
     mnuFileSaveAS_Click();
     return;
   }
-  const std::string path = RecentFilePath(0);
-  // A second window that has opened another file shares the list; its file must not be hit.
-  if (path != documentPath) {
-    Desktop::ShowError(
-        "The list of recent files no longer begins with \"" + DocumentName() +
-        "\"; another Turnbay may have opened a program. Choose Save As to name the file.");
-    return;
-  }
+  if (FileHasChanged(documentPath) && !MayOverwrite()) return;
+  BringToTop(documentPath);
   std::string reason;
-  if (!SaveFile(path, reason)) {
+  if (!SaveFile(documentPath, reason)) {
     Desktop::ShowError(reason);
     return;
   }

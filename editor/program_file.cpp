@@ -17,6 +17,14 @@ bool DocumentIsUtf8;
 
 namespace {
 
+// Of the document's file as it was last read or written here.
+std::string fileBytes;
+
+std::string EditorBytes() {
+  const std::string& text = TextEditor().Text();
+  return DocumentIsUtf8 ? CodePageToUtf8(text) : text;
+}
+
 std::string TooLong(const std::string& path, const std::string& what, std::size_t count,
                     std::size_t limit) {
   return "The file \"" + path + "\" can't be opened: it has " +
@@ -48,6 +56,7 @@ bool LoadFile(const std::string& path, std::string& reason) {
   }
   TextBuffer().SetText(std::move(text));
   DocumentIsUtf8 = decoded.isUtf8;
+  fileBytes = *bytes;
   return true;
 }
 
@@ -58,9 +67,17 @@ bool LoadProgram(const std::string& path, std::string& reason) {
   return true;
 }
 
+bool FileHasChanged(const std::string& path) {
+  std::string reason;
+  const auto found = ReadFile(path, reason);
+  return !found || (*found != fileBytes && *found != EditorBytes());
+}
+
 bool SaveFile(const std::string& path, std::string& reason) {
-  const std::string& text = TextEditor().Text();
-  return ReplaceFile(path, DocumentIsUtf8 ? CodePageToUtf8(text) : text, reason);
+  std::string bytes = EditorBytes();
+  if (!ReplaceFile(path, bytes, reason)) return false;
+  fileBytes = std::move(bytes);
+  return true;
 }
 
 }  // namespace frmMain

@@ -20,6 +20,10 @@ bool LoadFile(const std::string& path, std::string& reason);
 // As LoadFile, and brings the program to the editor, coloured and saved, with its commands open.
 bool LoadProgram(const std::string& path, std::string& reason);
 
+// True when the document's file isn't as it was when it was last read or written here, and not as
+// the editor has it either: another program has changed or removed it.
+bool FileHasChanged(const std::string& path);
+
 // Writes the editor's text. When that fails, the result is false, `reason` says why, and the old
 // file is whole.
 bool SaveFile(const std::string& path, std::string& reason);

@@ -55,6 +55,13 @@ void UpdateRecentFiles(const std::string& filePath, std::int16_t index) {
   BuildRecentFilesMenu();
 }
 
+void BringToTop(const std::string& filePath) {
+  constexpr std::int16_t kKeys = 5;
+  std::int16_t index = 0;
+  while (index < kKeys && RecentFilePath(index) != filePath) ++index;
+  if (index > 0) UpdateRecentFiles(filePath, index < kKeys ? index : std::int16_t{-1});
+}
+
 void BuildRecentFilesMenu() {
   RecentFileEntry& first = mnuFileRecentFiles[0];
   const std::string newest = RecentFilePath(0);

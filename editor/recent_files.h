@@ -16,6 +16,9 @@ std::string RecentFilePath(std::int16_t index);
 // used. Then rebuilds the menu. A path that is already listed gets a second entry.
 void UpdateRecentFiles(const std::string& filePath, std::int16_t index);
 
+// Puts a file on top that may have been pushed down by a second window, which shares the list.
+void BringToTop(const std::string& filePath);
+
 // Brings the paths into the entries of mnuFileRecentFiles.
 void BuildRecentFilesMenu();
 

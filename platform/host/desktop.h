@@ -18,14 +18,18 @@ void WaitForEvent();
 // Blocks the one thread. 0 gives up the rest of the time slice.
 void Sleep(int milliseconds);
 
-// Styles of a message box: one set of buttons plus one icon.
+// Styles of a message box: one set of buttons plus one icon, and which button is the default.
 constexpr int kOkOnly = 0;
 constexpr int kYesNoCancel = 3;
+constexpr int kYesNo = 4;
 constexpr int kCritical = 16;
 constexpr int kQuestion = 32;
 constexpr int kInformation = 64;
+// The second button is the one that Enter chooses.
+constexpr int kDefaultButton2 = 256;
 
-// Answers of a message box.
+// Answers of a message box. Who closes one without a choice has answered kCancel, whatever the
+// buttons.
 constexpr int kOk = 1;
 constexpr int kCancel = 2;
 constexpr int kYes = 6;

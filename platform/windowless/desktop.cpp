@@ -51,7 +51,7 @@ int MessageBox(const std::string& text, int style, const std::string& title) {
   if (isatty(STDERR_FILENO) != 0) std::fputs("\r\x1b[K", stderr);
   std::fprintf(stderr, "%s%s%s\n", title.c_str(), title.empty() ? "" : " ", text.c_str());
   // The first button is the default one.
-  return (style & kYesNoCancel) == kYesNoCancel ? kYes : kOk;
+  return (style & (kYesNoCancel | kYesNo)) != kOkOnly ? kYes : kOk;
 }
 
 void ShowNotification(const std::string& text, int milliseconds, bool modal) {

@@ -157,19 +157,63 @@ TEST_F(DocumentsTest, NewKeepsNothingOfTheFormerDocument) {
 }
 
 // The list is shared with a second window, which opens another file of the same name.
-TEST_F(DocumentsTest, OnlyTheDocumentsOwnFileIsSavedOver) {
+TEST_F(DocumentsTest, SaveKnowsItsFileWhateverASecondWindowOpens) {
   Open("/a/part.cnc", "G00");
-  Type("G01");
-  SaveSetting("CNC", "RecentFilePaths", "0", "/b/part.cnc");
-  Fakes::ExpectMessage(
-      {"The list of recent files no longer begins with \"part.cnc\"; another Turnbay may have "
-       "opened a program. Choose Save As to name the file.",
-       kCritical, "Error!"});
-  mnuFileSave_Click();
+  for (const char* text : {"G01", "G02"}) {
+    Type(text);
+    // The second time the file is still listed further down.
+    if (!RecentFilePath(1).empty()) SaveSetting("CNC", "RecentFilePaths", "1", "/a/part.cnc");
+    SaveSetting("CNC", "RecentFilePaths", "0", "/b/part.cnc");
+    mnuFileSave_Click();
+    EXPECT_EQ(std::string("part.cnc: ") + text + ", /a/part.cnc /b/part.cnc", State());
+    EXPECT_EQ(text, Fakes::FileBytes("/a/part.cnc"));
+    EXPECT_EQ("", Fakes::FileBytes("/b/part.cnc"));
+  }
+  EXPECT_EQ("&2   part.cnc", mnuFileRecentFiles[1].Caption.Get());
   Fakes::ExpectSaveDialog("/c/part.cnc");
   mnuFileSaveAS_Click();
   EXPECT_EQ("/a/part.cnc", Fakes::OfferedName());
-  EXPECT_EQ("part.cnc: G01, /c/part.cnc /b/part.cnc", State());
+}
+
+TEST_F(DocumentsTest, AsksBeforeItOverwritesWhatAnotherProgramHasWritten) {
+  constexpr const char* kRemoved = nullptr;
+  for (const bool wasSaved : {false, true}) {
+    // What the file holds when it is saved; it was read or saved as "[\xC3\xA4".
+    for (const char* found : {"[\xC3\xA4", "[\xC3\xB6", "[\xE4", "[x", "", kRemoved}) {
+      for (const int answer : {kYes, kNo, kCancel}) {
+        for (const auto save : {mnuFileSave_Click, mnuFileNew_Click}) {
+          const std::string before = "[\xC3\xA4";
+          Open("/part.cnc", wasSaved ? "[\xC3\xBC" : before);
+          if (wasSaved) {
+            Type("[\xE4");
+            mnuFileSave_Click();
+          }
+          Type("[\xF6");
+          Fakes::world.files.clear();
+          if (found != kRemoved) Fakes::PutFile("/part.cnc", found);
+          if (save == mnuFileNew_Click) {
+            Fakes::ExpectMessage(
+                {"Save changes to part.cnc?", kYesNoCancel + kQuestion, "Save Changes?", kYes});
+          }
+          const bool asks =
+              found == kRemoved || (found != before && found != std::string("[\xC3\xB6"));
+          if (asks) {
+            Fakes::ExpectMessage({"\"part.cnc\" has been changed by another program. Overwrite it?",
+                                  kYesNo + kQuestion + kDefaultButton2, "Save Changes?", answer});
+          }
+          save();
+          const bool saves = !asks || answer == kYes;
+          EXPECT_EQ(saves ? "[\xC3\xB6" : std::string(found ? found : ""),
+                    Fakes::FileBytes("/part.cnc"));
+          EXPECT_EQ(!saves, mnuFileSave.Enabled.Get());
+          EXPECT_EQ(saves && save == mnuFileNew_Click,
+                    StatusBar.Panels("FileName").Text.Get() == kUntitled);
+          EnableCommands("Save", false);
+          Fakes::Verify();
+        }
+      }
+    }
+  }
 }
 
 TEST_F(DocumentsTest, TheRecentListLastsAndBringsFilesBack) {

@@ -1,3 +1,4 @@
+#include <QAbstractButton>
 #include <QMessageBox>
 
 #include "platform/host/desktop.h"
@@ -15,12 +16,13 @@ constexpr IconStyle kIcons[] = {
     {Desktop::kInformation, QMessageBox::Information},
 };
 constexpr int kIconBits = 0xF0;
+constexpr int kButtonBits = 0x0F;
 
 struct ButtonAnswer {
   QMessageBox::StandardButton button;
   int answer;
 };
-constexpr ButtonAnswer kYesNoCancelButtons[] = {
+constexpr ButtonAnswer kAnswers[] = {
     {QMessageBox::Yes, Desktop::kYes},
     {QMessageBox::No, Desktop::kNo},
     {QMessageBox::Cancel, Desktop::kCancel},
@@ -39,16 +41,19 @@ int MessageBox(const std::string& text, int style, const std::string& title) {
   for (const IconStyle& entry : kIcons) {
     if ((style & kIconBits) == entry.style) box.setIcon(entry.icon);
   }
-  const bool isQuestion = (style & kYesNoCancel) == kYesNoCancel;
-  if (!isQuestion) {
+  const int buttons = style & kButtonBits;
+  if (buttons == kOkOnly) {
     box.setStandardButtons(QMessageBox::Ok);
     box.exec();
     return kOk;
   }
   box.setStandardButtons(QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
-  box.setDefaultButton(QMessageBox::Yes);
+  box.setDefaultButton((style & Desktop::kDefaultButton2) != 0 ? QMessageBox::No
+                                                               : QMessageBox::Yes);
+  // Out of sight it still takes Esc and the close box, which are no No.
+  if (buttons == kYesNo) box.button(QMessageBox::Cancel)->hide();
   const int chosen = box.exec();
-  for (const ButtonAnswer& entry : kYesNoCancelButtons) {
+  for (const ButtonAnswer& entry : kAnswers) {
     if (chosen == entry.button) return entry.answer;
   }
   return kCancel;
