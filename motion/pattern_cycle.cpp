@@ -81,6 +81,7 @@ void MoveMarkTo(std::int16_t row) {
 // False when the run was stopped.
 bool RunRows(RowRange rows) {
   for (int row = rows.first; row <= rows.last; ++row) {
+    YieldByClock();
     if (GlobalVariables::StopRequested == kTrue) return false;
     MoveMarkTo(static_cast<std::int16_t>(row));
     // A copy: the row may be edited in place while its block runs.
@@ -88,7 +89,7 @@ bool RunRows(RowRange rows) {
     const std::string text = DebugWindow.TextMatrix(row, frmMain::kTextColumn);
     ExecuteRow(text);
   }
-  return true;
+  return GlobalVariables::StopRequested != kTrue;
 }
 
 // The part of a length that falls to one of the steps between the passes; a single pass has none.

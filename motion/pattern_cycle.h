@@ -19,7 +19,8 @@ extern std::int16_t CyclePasses;
 // pass; the driver goes on behind its own row afterwards. Within a running cycle a second block
 // starts no other one.
 // Reads the rows of DebugWindow. Writes the registers, CycleOffsetX, CycleOffsetZ and CurrentRow.
-// The first block clears RadiusGiven. Yields, through the blocks that it runs.
+// The first block clears RadiusGiven. Yields, through the blocks that it runs, and
+// between them by the clock.
 void ExecuteG73();
 
 void ResetPatternCycle();

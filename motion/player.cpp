@@ -23,6 +23,8 @@ namespace {
 
 // Delay of a point at a Slider value of 0 or less, in milliseconds for each step below 0.
 constexpr int kDelayStep = 5;
+// The longest stretch of work without a yield, in milliseconds.
+constexpr int kLongestStretch = 50;
 // Points that a rapid move leaves out behind each point played.
 constexpr std::size_t kRapidSkip = 5;
 
@@ -53,6 +55,8 @@ void Pace(std::size_t index) {
 
 void SwitchSound() {
   if (!frmMain::mnuToolsPlaySound.Checked || FastSoundOn == RapidMove) return;
+  // A pause is silent, and may just have come: the change waits until the run goes on.
+  if (frmMain::IsRunPaused()) return;
   const char* sound = RapidMove == kTrue ? "\\sound\\fast.wav" : "\\sound\\SLOW.wav";
   PlaySoundFile(ApplicationFolder() + sound);
   FastSoundOn = RapidMove;
@@ -60,12 +64,19 @@ void SwitchSound() {
 
 }  // namespace
 
+void YieldByClock() {
+  if (Desktop::MillisecondsSinceYield() >= kLongestStretch) Desktop::Yield();
+}
+
 void PlayPath() {
   const std::size_t count = PathPoints.size();
   for (std::size_t i = 0; i < count; ++i) {
     if (!WaitWhilePaused()) return;
     PlayPoint(PathPoints[i]);
-    if (GlobalVariables::RunToBreakpoint == kTrue) continue;
+    if (GlobalVariables::RunToBreakpoint == kTrue) {
+      YieldByClock();
+      continue;
+    }
     Pace(i);
     SwitchSound();
     if (RapidMove == kTrue) i += kRapidSkip;

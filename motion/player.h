@@ -28,10 +28,13 @@ extern double CycleOffsetZ;
 // Points played since the program started.
 extern std::int64_t PointsPlayed;
 
+// Yields when the last yield is 50 ms ago: for stretches of work that have no yield of their own.
+void YieldByClock();
+
 // Plays PathPoints: moves the tool, paces by the Slider, shows the surface, switches the sound,
 // waits here while the run is paused and leaves when it is stopped. A rapid move plays every sixth
 // point; while RunToBreakpoint is set every point is played and nothing shown.
-// Yields at the rate of the Slider, and while paused.
+// Yields at the rate of the Slider, and while paused; without a picture, by the clock.
 void PlayPath();
 
 // Plays a wave file in a loop until the next sound replaces it.

@@ -15,6 +15,9 @@ void Yield();
 // As Yield, but waits until at least one event has been handled: a paused run costs no time.
 void WaitForEvent();
 
+// Milliseconds since Yield or WaitForEvent returned last, or the program started.
+int MillisecondsSinceYield();
+
 // Blocks the one thread. 0 gives up the rest of the time slice.
 void Sleep(int milliseconds);
 

@@ -43,6 +43,11 @@ void WaitForEvent() {
   if (waitHook) waitHook();
 }
 
+// There are no events that a longer stretch would keep waiting.
+int MillisecondsSinceYield() {
+  return 0;
+}
+
 void Sleep(int /*milliseconds*/) {}
 
 int MessageBox(const std::string& text, int style, const std::string& title) {

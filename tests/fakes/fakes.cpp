@@ -90,6 +90,7 @@ void Yield() {
   if (++world.yields > kYieldBudget) throw std::runtime_error("the yields never end");
   if (const auto scripted = world.atYield.extract(world.yields)) scripted.mapped()();
   if (world.atEachYield) world.atEachYield();
+  world.sinceYield = 0;
 }
 
 void WaitForEvent() {
@@ -99,6 +100,10 @@ void WaitForEvent() {
   }
   Yield();
   if (isScripted) TakeFirst(world.atWait)();
+}
+
+int MillisecondsSinceYield() {
+  return world.sinceYield += world.stepTime;
 }
 
 void Sleep(int milliseconds) {

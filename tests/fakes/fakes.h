@@ -23,6 +23,8 @@ struct FakeWorld {
   std::map<int, std::function<void()>> atYield;
   std::function<void()> atEachYield;
   std::deque<std::function<void()>> atWait;
+  int stepTime = 0;
+  int sinceYield = 0;
   bool collectsMessages = false;
   std::deque<FakeMessage> expectedMessages;
   std::vector<FakeMessage> messages;
@@ -64,6 +66,9 @@ class Fakes {
   static void AtWait(Action action) { world.atWait.push_back(std::move(action)); }
   // Calls of Yield and WaitForEvent so far.
   static int Yields() { return world.yields; }
+
+  // The clock, which else stands still, goes on by so many milliseconds whenever it is asked.
+  static void EachStepTakes(int milliseconds) { world.stepTime = milliseconds; }
 
   // The next message box must be this one, and gets its answer.
   static void ExpectMessage(const FakeMessage& message) {

@@ -76,4 +76,16 @@ TEST_F(PlayerTest, TheSoundChangesWithTheKindOfMove) {
       << "a feed move is silent until a rapid move was heard, and a stop keeps the memory";
 }
 
+TEST_F(PlayerTest, APauseIsSilentAndAChangeOfSoundWaitsForItsEnd) {
+  frmMain::mnuToolsPlaySound.Checked = true;
+  frmMain::EnableCommands("Pause,Stop", true);
+  Fakes::AtYield(1, frmMain::mnuRunPause_Click);
+  Fakes::AtWait([] {
+    EXPECT_EQ(std::vector<std::string>{"/app\\sound\\stop.wav"}, Fakes::Sounds());
+    frmMain::mnuRunStart_Click();
+  });
+  Play(GCodes::ExecuteG00, 25);
+  EXPECT_EQ("/app\\sound\\fast.wav", Fakes::Sounds().back());
+}
+
 }  // namespace

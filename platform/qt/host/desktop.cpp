@@ -16,6 +16,8 @@ namespace {
 // Events that each bring the next one, such as fast timers, don't keep a yield longer than this.
 constexpr int kLongestYield = 10;
 
+std::chrono::steady_clock::time_point lastYield = std::chrono::steady_clock::now();
+
 // Posted, so that they arrive when events are next handled.
 void PostKey(QWidget* receiver, Qt::Key key, Qt::KeyboardModifiers modifiers, const QString& text) {
   for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
@@ -27,10 +29,18 @@ void PostKey(QWidget* receiver, Qt::Key key, Qt::KeyboardModifiers modifiers, co
 
 void Yield() {
   QCoreApplication::processEvents(QEventLoop::AllEvents, kLongestYield);
+  lastYield = std::chrono::steady_clock::now();
 }
 
 void WaitForEvent() {
   QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+  lastYield = std::chrono::steady_clock::now();
+}
+
+int MillisecondsSinceYield() {
+  using std::chrono::milliseconds;
+  const auto passed = std::chrono::steady_clock::now() - lastYield;
+  return static_cast<int>(std::chrono::duration_cast<milliseconds>(passed).count());
 }
 
 void Sleep(int milliseconds) {
