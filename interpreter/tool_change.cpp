@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
+#include <set>
 #include <string>
 
 #include "interpreter/machine.h"
@@ -18,6 +19,10 @@ namespace ModCNC {
 using GlobalVariables::kToolCount;
 
 namespace {
+
+bool tellsOnce = false;
+// What has been told since then.
+std::set<std::string> told;
 
 constexpr const char* kAssignAnother = " Assign another bitmap to it in the tool library.";
 
@@ -71,8 +76,14 @@ void ChangeTool() {
   std::string reason;
   const auto name = BitmapName(reason);
   if (name && LoadBitmap(*name, reason)) return;
-  Desktop::ShowError("Tool " + DecimalText(ToolNumber) +
-                     " can't be loaded, so the tool stays as it was. " + reason);
+  const std::string text = "Tool " + DecimalText(ToolNumber) +
+                           " can't be loaded, so the tool stays as it was. " + reason;
+  if (!tellsOnce || told.insert(text).second) Desktop::ShowError(text);
+}
+
+void TellToolTroubleOnce(bool once) {
+  tellsOnce = once;
+  told.clear();
 }
 
 }  // namespace ModCNC

@@ -7,4 +7,8 @@ namespace ModCNC {
 // Reads ToolNumber and the tool files; writes ToolFiles and the loaded tool.
 void ChangeTool();
 
+// True: from now on ChangeTool tells each reason once only, as a cycle may meet it in every pass.
+// False: every time.
+void TellToolTroubleOnce(bool once);
+
 }  // namespace ModCNC

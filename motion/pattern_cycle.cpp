@@ -5,6 +5,7 @@
 #include "debugger/debug_grid.h"
 #include "interpreter/decoder.h"
 #include "interpreter/machine.h"
+#include "interpreter/tool_change.h"
 #include "mainwindow/control_surface.h"
 #include "motion/moves.h"
 #include "motion/player.h"
@@ -125,6 +126,7 @@ bool RunPasses(RowRange rows, std::int16_t startX, std::int16_t startZ) {
 
 void RunCycle(std::int16_t startX, std::int16_t startZ) {
   cycleRunning = true;
+  TellToolTroubleOnce(true);
   markedRow = GlobalVariables::CurrentRow;
   CycleOffsetX = ReliefX;
   CycleOffsetZ = ReliefZ;
@@ -135,6 +137,7 @@ void RunCycle(std::int16_t startX, std::int16_t startZ) {
   CycleOffsetX = 0;
   CycleOffsetZ = 0;
   frmMain::RemoveHighLighting(markedRow);
+  TellToolTroubleOnce(false);
   cycleRunning = false;
 }
 
@@ -154,6 +157,7 @@ void ResetPatternCycle() {
   ReliefZ = 0;
   ReliefX = 0;
   CyclePasses = 0;
+  TellToolTroubleOnce(false);
   cycleRunning = false;
   markedRow = 0;
 }

@@ -51,6 +51,16 @@ TEST_F(MWordsTest, StopInsideModalNotificationEndsTheRunBehindItsRow) {
   EXPECT_EQ((std::vector<std::string>{"Chuck OPEN", "Quill Extend"}), Fakes::Notifications());
 }
 
+TEST_F(MWordsTest, WithinACycleEachCauseIsToldOnce) {
+  Fakes::CollectMessages();
+  const std::vector<std::string> rows = {"[BILLET X20 Z40", "T3 M06",       "T3 M06",
+                                         "G73 U4 W1 R3",    "G73 P10 Q20",  "N10 G04 T3 M06",
+                                         "N20 T30 M06",     "G73 U4 W1 R3", "G73 P10 Q20"};
+  Play(rows);
+  // Two rows of their own, two causes in each cycle, and the rows behind the first cycle.
+  EXPECT_EQ(2U + 2 + 2 + 2, Fakes::Messages().size());
+}
+
 TEST_F(MWordsTest, ToolChangeLoadsTheNumberedToolOrLeavesTheOldOne) {
   const std::string size = "TOOLWIDTH=40\r\nTOOLHEIGHT=30\r\n";
   // Entry of the tool list, description, fault.
