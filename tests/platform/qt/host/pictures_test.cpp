@@ -2,6 +2,7 @@
 
 #include <QImage>
 #include <gmock/gmock.h>
+#include <map>
 
 #include "tests/platform/qt/temporary_folder.h"
 
@@ -36,23 +37,44 @@ TEST_F(PicturesTest, ReadsColoursOfBothRowOrders) {
   }
 }
 
+// A white and a black pixel, made by hand since Qt writes few depths. Palettes hold black and
+// white.
+std::string BmpOfDepth(int bits) {
+  const int colours = bits <= 8 ? 1 << bits : 0;
+  std::string palette(static_cast<std::size_t>(4 * colours), '\0');
+  if (colours > 0) palette.replace(4, 3, 3, '\xFF');
+  const std::map<int, std::string> rows = {{1, "\x80"},          {4, "\x10"},
+                                           {8, "\x01"},          {16, "\xFF\x7F"},
+                                           {24, "\xFF\xFF\xFF"}, {32, "\xFF\xFF\xFF"}};
+  std::string pixels = rows.at(bits);
+  pixels.resize(8);
+  return "BM" + LittleEndian(0, 8) + LittleEndian(54 + 4 * colours, 4) + LittleEndian(40, 4) +
+         LittleEndian(2, 4) + LittleEndian(1, 4) + LittleEndian(1, 2) + LittleEndian(bits, 2) +
+         std::string(24, '\0') + palette + pixels;
+}
+
 // Whatever its name says.
 TEST_F(PicturesTest, ReadsBitmapsOfEveryDepthAndNoOtherFormat) {
-  QImage image(2, 1, QImage::Format_RGB32);
-  image.setPixel(0, 0, qRgb(255, 255, 255));
-  image.setPixel(1, 0, qRgb(0, 0, 0));
   std::string reason;
-  for (const auto depth : {QImage::Format_Mono, QImage::Format_Indexed8, QImage::Format_RGB16,
-                           QImage::Format_RGB888, QImage::Format_ARGB32}) {
-    ASSERT_TRUE(image.convertToFormat(depth).save(QString::fromStdString(Path("tool.png")), "BMP"));
-    const auto picture = LoadPicture(Path("tool.png"), reason);
-    ASSERT_TRUE(picture) << reason;
-    EXPECT_EQ(Rgb(255, 255, 255), picture->GetPixel(0, 0));
-    EXPECT_EQ(Rgb(0, 0, 0), picture->GetPixel(1, 0));
+  for (const int bits : {1, 4, 8, 16, 24, 32}) {
+    const auto picture = LoadPicture(Put("tool.png", BmpOfDepth(bits)), reason);
+    ASSERT_TRUE(picture) << bits << reason;
+    EXPECT_EQ(Rgb(255, 255, 255), picture->GetPixel(0, 0)) << bits;
+    EXPECT_EQ(Rgb(0, 0, 0), picture->GetPixel(1, 0)) << bits;
   }
-  for (const char* format : {"PNG", "XPM", "PPM"}) {
-    ASSERT_TRUE(image.save(QString::fromStdString(Path("tool.bmp")), format));
-    EXPECT_FALSE(LoadPicture(Path("tool.bmp"), reason)) << format;
+  // Two bytes a pixel, with six bits of green: the key colour.
+  std::string bitmap = BmpOfDepth(16);
+  bitmap.replace(10, 1, 1, 66).replace(30, 1, 1, 3);
+  bitmap.replace(
+      54, 2, LittleEndian(0xF800, 4) + LittleEndian(0x7E0, 4) + LittleEndian(0x1F, 4) + "\x1F\xF8");
+  const auto picture = LoadPicture(Put("tool.bmp", bitmap), reason);
+  EXPECT_EQ(kTransparent, picture->GetPixel(0, 0));
+  const QImage image(2, 1, QImage::Format_RGB32);
+  for (const char* format : {"PNG", "XPM", "PPM", "SVG"}) {
+    Put("tool.bmp", "<svg xmlns='http://www.w3.org/2000/svg' width='2' height='1'/>");
+    const std::string file = Path("tool.bmp");
+    ASSERT_NE(format == std::string("SVG"), image.save(QString::fromStdString(file), format));
+    EXPECT_FALSE(LoadPicture(file, reason)) << format;
     EXPECT_THAT(reason, testing::HasSubstr("tool.bmp\" can't be read: it is no bitmap."));
   }
 }
