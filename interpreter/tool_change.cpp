@@ -35,7 +35,9 @@ std::optional<std::string> BitmapName(std::string& reason) {
   }
   const std::string& name = GlobalVariables::ToolFiles[static_cast<std::size_t>(ToolNumber)];
   if (name.empty()) {
-    reason = "It has no bitmap. Assign one to it in the tool library, or change the T word.";
+    const std::string& trouble = frmToolSelect::ListTrouble;
+    reason = (trouble.empty() ? "It has no bitmap. Assign one" : trouble + " Assign a bitmap") +
+             " to it in the tool library, or change the T word.";
     return std::nullopt;
   }
   if (!GlobalVariables::IsBareBitmapName(name)) {

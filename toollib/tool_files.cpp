@@ -122,10 +122,11 @@ using GlobalVariables::kToolCount;
 using GlobalVariables::ToolFiles;
 
 ComboBox cmbTools;
+std::string ListTrouble;
 
 void GetToolList() {
-  std::string reason;
-  const auto bytes = ReadFile(ListPath(), reason);
+  ListTrouble.clear();
+  const auto bytes = ReadFile(ListPath(), ListTrouble);
   if (!bytes) {
     Offer(AllNumbers());
     return;
@@ -162,6 +163,7 @@ bool WriteToolList(std::string& reason) {
 void ResetToolFiles() {
   ToolFiles = {};
   cmbTools = {};
+  ListTrouble.clear();
 }
 
 }  // namespace frmToolSelect

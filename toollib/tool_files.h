@@ -54,9 +54,12 @@ namespace frmToolSelect {
 // position doesn't.
 extern ComboBox cmbTools;
 
+// Why GetToolList couldn't read the list; empty when it could.
+extern std::string ListTrouble;
+
 // Reads the list file into ToolFiles and fills cmbTools. A line that is no record is passed over;
 // numbers that the file doesn't name keep their entries. Without a list file ToolFiles stays as it
-// is and all numbers are offered.
+// is and all numbers are offered. Writes ListTrouble.
 void GetToolList();
 
 // Writes all of ToolFiles to the list file. On failure `reason` says why and the file is as it was.
