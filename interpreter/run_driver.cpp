@@ -26,11 +26,6 @@ namespace {
 // Gap between the waiting tool and the right edge of the simulation area, in pixels.
 constexpr int kStartMargin = 20;
 
-struct Billet {
-  std::int16_t diameter = 0;
-  std::int16_t length = 0;
-};
-
 std::optional<std::string_view> FindBilletRow() {
   if (frmMain::TextEditor().Find(kBilletMark) < 0) return std::nullopt;
   for (int row = 0; row < DebugWindow.Rows(); ++row) {
@@ -38,25 +33,6 @@ std::optional<std::string_view> FindBilletRow() {
     if (text.find(kBilletMark) != std::string_view::npos) return text;
   }
   return std::nullopt;
-}
-
-// The row is taken to begin with the mark. Starts from the billet as it is, since a word may be
-// missing.
-std::optional<Billet> ParseBillet(std::string_view row) {
-  const std::string_view words = Trim(Trim(row).substr(kBilletMark.size()));
-  const std::vector<std::string_view> parts = Split(words, " ");
-  if (parts.size() < 2) return std::nullopt;
-  Billet billet{BilletX, BilletZ};
-  for (const std::string_view part : {parts[0], parts[1]}) {
-    const char letter = part.empty() ? ' ' : part.front();
-    if (letter != 'X' && letter != 'Z') continue;
-    const auto millimetres = ParseNumber(part.substr(1));
-    if (!millimetres) return std::nullopt;
-    const auto units = RoundToInt16(*millimetres * 10);
-    if (!units || *units < 0) return std::nullopt;
-    (letter == 'X' ? billet.diameter : billet.length) = *units;
-  }
-  return billet;
 }
 
 void PlaceTool() {
@@ -82,6 +58,23 @@ void PlayRow(std::string_view text) {
 
 }  // namespace
 
+std::optional<BilletWords> ParseBillet(std::string_view row) {
+  const std::string_view words = Trim(Trim(row).substr(kBilletMark.size()));
+  std::vector<std::string_view> parts = Split(words, " ");
+  std::erase(parts, std::string_view());
+  if (parts.size() < 2) return std::nullopt;
+  BilletWords billet;
+  for (const std::string_view part : {parts[0], parts[1]}) {
+    if (part.front() != 'X' && part.front() != 'Z') continue;
+    const auto millimetres = ParseNumber(part.substr(1));
+    if (!millimetres) return std::nullopt;
+    const auto units = RoundToInt16(*millimetres * 10);
+    if (!units || *units < 0) return std::nullopt;
+    (part.front() == 'X' ? billet.diameter : billet.length) = *units;
+  }
+  return billet;
+}
+
 std::int16_t ReadBilletLine() {
   const auto row = FindBilletRow();
   const auto billet = row ? ParseBillet(*row) : std::nullopt;
@@ -89,8 +82,8 @@ std::int16_t ReadBilletLine() {
     Desktop::MessageBox("Billet Size Not Found", Desktop::kCritical);
     return kFalse;
   }
-  BilletX = billet->diameter;
-  BilletZ = billet->length;
+  BilletX = billet->diameter.value_or(BilletX);
+  BilletZ = billet->length.value_or(BilletZ);
   return kTrue;
 }
 
