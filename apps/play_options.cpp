@@ -39,7 +39,7 @@ ParsedOptions ParsePlayOptions(const QStringList& arguments) {
   parser.setApplicationDescription(
       "Plays a part program without a window, with default settings.\n"
       "Exit status: 0 played, 1 the program can't be played, 2 wrong usage, a file that can't be "
-      "read or written, or no OpenGL for --turned-part.");
+      "read or written, too little memory, or no OpenGL for --turned-part.");
   const QCommandLineOption help({"h", "help"}, "Show this help.");
   const QCommandLineOption version("version", "Show the version.");
   const QCommandLineOption size("size", "Simulation area in pixels.", "WxH", "1000x640");
@@ -60,7 +60,7 @@ ParsedOptions ParsePlayOptions(const QStringList& arguments) {
                                     "Print the program in its layout on standard output.");
   parser.addOptions({check, reformat, help, version, size, tools, picture, profile, turnedPart,
                      turnedPartSize, report, runToBreakpoint});
-  parser.addPositionalArgument("PROGRAM", "The part program to play.");
+  parser.addPositionalArgument("PROGRAM", "The part program to play; - is standard input.");
 
   if (!parser.parse(arguments)) return WrongUsage(parser.errorText());
   if (parser.isSet(help)) return {std::nullopt, parser.helpText(), 0};
@@ -75,11 +75,16 @@ ParsedOptions ParsePlayOptions(const QStringList& arguments) {
     if (!given) return WrongSize(parser.value(*option));
     *target = *given;
   }
-  options.tools = parser.value(tools).toStdString();
-  options.picture = parser.value(picture).toStdString();
-  options.profile = parser.value(profile).toStdString();
-  options.turnedPart = parser.value(turnedPart).toStdString();
-  options.report = parser.value(report).toStdString();
+  for (const auto& [option, path] :
+       {std::pair{&tools, &options.tools}, std::pair{&picture, &options.picture},
+        std::pair{&profile, &options.profile}, std::pair{&turnedPart, &options.turnedPart},
+        std::pair{&report, &options.report}}) {
+    *path = parser.value(*option).toStdString();
+    if (path->empty() && parser.isSet(*option)) {
+      return WrongUsage(
+          QString("--%1 needs the name of a file or a folder.").arg(option->names().constFirst()));
+    }
+  }
   options.runToBreakpoint = parser.isSet(runToBreakpoint);
   options.check = parser.isSet(check);
   options.reformat = parser.isSet(reformat);

@@ -29,6 +29,7 @@ struct PlayOptions {
   bool check = false;
   // Print the text in its layout; don't play.
   bool reformat = false;
+  // "-" is standard input.
   std::string program;
 };
 

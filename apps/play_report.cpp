@@ -7,6 +7,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <cstddef>
+#include <new>
 
 #include "interpreter/machine.h"
 #include "mainwindow/control_surface.h"
@@ -58,6 +59,14 @@ QJsonArray NotificationsJson() {
   return array;
 }
 
+QJsonArray WarningsJson(const std::vector<PlayWarning>& warnings) {
+  QJsonArray array;
+  for (const auto& [text, place] : warnings) {
+    array.append(QJsonObject{{"text", ToQt(text)}, {"line", place.line}, {"column", place.column}});
+  }
+  return array;
+}
+
 // Where the fault is in the text as played; null when there is none.
 QJsonValue CheckJson(RunOutcome outcome) {
   if (outcome != RunOutcome::SyntaxFault) return QJsonValue::Null;
@@ -84,7 +93,9 @@ QJsonObject PanelsJson() {
 
 // Three bytes a pixel: red, green and blue.
 QImage ToImage(const Raster& surface) {
-  return ToQImage(surface).convertToFormat(QImage::Format_RGB888);
+  QImage image = ToQImage(surface).convertToFormat(QImage::Format_RGB888);
+  if (image.width() != surface.Width()) throw std::bad_alloc();
+  return image;
 }
 
 QString SurfaceHash(const Raster& surface) {
@@ -109,7 +120,7 @@ QByteArray ReportJson(const PlayOutcome& outcome) {
     profile.append(column.Radius);
     taper.append(column.TaperMark);
   }
-  const QJsonObject report{
+  QJsonObject report{
       {"outcome", OutcomeText(outcome.run)},
       {"messages", MessagesJson()},
       {"check", CheckJson(outcome.run)},
@@ -123,6 +134,7 @@ QByteArray ReportJson(const PlayOutcome& outcome) {
       {"taper", taper},
       {"surface_sha256", SurfaceHash(Graphics::StockDC.Read())},
   };
+  if (!outcome.warnings.empty()) report["warnings"] = WarningsJson(outcome.warnings);
   return QJsonDocument(report).toJson();
 }
 
@@ -140,6 +152,7 @@ QByteArray RasterPng(const Raster& picture) {
   QByteArray bytes;
   QBuffer buffer(&bytes);
   buffer.open(QIODevice::WriteOnly);
-  ToImage(picture).save(&buffer, "PNG");
+  // Nothing but memory can be missing.
+  if (!ToImage(picture).save(&buffer, "PNG")) throw std::bad_alloc();
   return bytes;
 }

@@ -2,11 +2,20 @@
 
 #include <QByteArray>
 #include <string>
+#include <vector>
 
+#include "editor/source_place.h"
 #include "interpreter/machine.h"
 #include "platform/raster.h"
 
 // What turnbay-play tells of a run that is over, taken from the shared state as it stands.
+
+// What the program may not mean, though it can be played.
+struct PlayWarning {
+  std::string text;
+  // In the file.
+  frmMain::TextPlace place;
+};
 
 struct PlayOutcome {
   // Of the run, or of a check without one. A fault is selected in the editor.
@@ -15,7 +24,10 @@ struct PlayOutcome {
   std::string text;
   // How often a paused run was resumed.
   int resumes = 0;
+  std::vector<PlayWarning> warnings{};
 };
+
+// Both that make a picture throw std::bad_alloc.
 
 // One JSON object.
 QByteArray ReportJson(const PlayOutcome& outcome);

@@ -5,9 +5,11 @@
 #include <cstdio>
 #include <cstring>
 #include <filesystem>
+#include <new>
 #include <string>
 #include <string_view>
 #include <unistd.h>
+#include <vector>
 
 #include "apps/play_options.h"
 #include "apps/play_report.h"
@@ -29,6 +31,7 @@
 #include "platform/host/files.h"
 #include "platform/host/settings_store.h"
 #include "platform/numbers.h"
+#include "platform/text.h"
 #include "platform/windowless/windowless.h"
 #include "settings/settings.h"
 #include "toollib/tool_folder.h"
@@ -43,8 +46,14 @@ constexpr int kFileTrouble = 2;
 
 int resumes = 0;
 
+// Whole, also where the text holds a NUL.
+void Say(const std::string& text) {
+  const std::string line = text + '\n';
+  std::fwrite(line.data(), 1, line.size(), stderr);
+}
+
 void SayTrouble(const std::string& what) {
-  std::fprintf(stderr, "turnbay-play: %s\n", what.c_str());
+  Say("turnbay-play: " + what);
 }
 
 // With every other view off the simulation area is as large as the window, and stays so.
@@ -68,7 +77,8 @@ void StartUp(const PlayOptions& options) {
 
 bool LoadProgram(const std::string& path) {
   std::string reason;
-  if (frmMain::LoadProgram(path, reason)) return true;
+  const auto bytes = path == "-" ? ReadStandardInput(reason) : ReadFile(path, reason);
+  if (bytes && frmMain::ShowProgram(path, *bytes, reason)) return true;
   SayTrouble(reason);
   return false;
 }
@@ -116,18 +126,39 @@ bool PrintProgram() {
   return Print(frmMain::DocumentIsUtf8 ? CodePageToUtf8(text) : text);
 }
 
-// Tells where in the file the last message belongs. `offset` counts in the text as played.
-void SayPlace(const PlayOptions& options, std::string_view source, std::size_t offset) {
-  const frmMain::TextPlace place =
-      frmMain::FindSourcePlace(source, frmMain::TextEditor().Text(), offset);
-  std::fprintf(stderr, "%s:%d:%d: %s\n", options.program.c_str(), place.line, place.column,
-               Windowless::Messages().back().text.c_str());
+// As FILE:LINE:COLUMN: text.
+void SayAt(const PlayOptions& options, const frmMain::TextPlace& place, const std::string& text) {
+  Say(options.program + ':' + DecimalText(place.line) + ':' + DecimalText(place.column) + ": " +
+      text);
+}
+
+// Where in the file stands what is at `offset` of the text as played.
+frmMain::TextPlace PlaceOf(std::string_view source, std::size_t offset) {
+  return frmMain::FindSourcePlace(source, frmMain::TextEditor().Text(), offset);
 }
 
 // Where the billet line stands, or should stand.
 std::size_t BilletOffset() {
   const std::ptrdiff_t found = frmMain::TextEditor().Find(ModCNC::kBilletMark);
   return found < 0 ? 0 : static_cast<std::size_t>(found);
+}
+
+// Of a billet line that leaves a size open.
+std::vector<PlayWarning> BilletWarnings(std::string_view source) {
+  const std::string_view text = frmMain::TextEditor().Text();
+  const std::size_t mark = text.find(ModCNC::kBilletMark);
+  if (mark == std::string_view::npos) return {};
+  const std::size_t lineEnd = text.rfind(kLineEnd, mark);
+  const std::size_t row = lineEnd == std::string_view::npos ? 0 : lineEnd + kLineEnd.size();
+  const auto billet = ModCNC::ParseBillet(text.substr(row, text.find(kLineEnd, mark) - row));
+  std::vector<PlayWarning> warnings;
+  const auto warn = [&](const char* size) {
+    warnings.push_back({std::string("The billet line names no ") + size + ", which stays 0.",
+                        PlaceOf(source, mark)});
+  };
+  if (billet && !billet->diameter) warn("diameter (X)");
+  if (billet && !billet->length) warn("length (Z)");
+  return warnings;
 }
 
 std::string_view View(const QByteArray& bytes) {
@@ -145,32 +176,31 @@ bool WriteTurnedPart(const PlayOptions& options) {
   return WriteFile(options.turnedPart, View(RasterPng(picture)));
 }
 
-bool WriteResults(const PlayOptions& options, const PlayOutcome& outcome) {
-  bool written = true;
-  if (!options.picture.empty()) {
-    written &= WriteFile(options.picture, View(RasterPng(Graphics::StockDC.Read())));
+// Writes what `make` makes, if it was asked for. What there is no memory for is told.
+template <class Make>
+bool WriteResult(const std::string& path, Make make) {
+  if (path.empty()) return true;
+  try {
+    return make();
+  } catch (const std::bad_alloc&) {
+    SayTrouble("The file \"" + path + "\" can't be made: there isn't enough memory.");
+    return false;
   }
-  if (!options.profile.empty()) written &= WriteFile(options.profile, ProfileCsv());
-  if (!options.report.empty()) written &= WriteFile(options.report, View(ReportJson(outcome)));
+}
+
+bool WriteResults(const PlayOptions& options, const PlayOutcome& outcome) {
+  bool written = WriteResult(options.picture, [&] {
+    return WriteFile(options.picture, View(RasterPng(Graphics::StockDC.Read())));
+  });
+  written &= WriteResult(options.profile, [&] { return WriteFile(options.profile, ProfileCsv()); });
+  written &= WriteResult(options.report,
+                         [&] { return WriteFile(options.report, View(ReportJson(outcome))); });
   // Last: it alone asks for OpenGL, which some machines lack.
-  if (!options.turnedPart.empty()) written &= WriteTurnedPart(options);
+  written &= WriteResult(options.turnedPart, [&] { return WriteTurnedPart(options); });
   return written;
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
-  const QCoreApplication application(argc, argv);
-  const ParsedOptions parsed = ParsePlayOptions(QCoreApplication::arguments());
-  if (!parsed.options) {
-    std::fputs(qPrintable(parsed.message), parsed.exitStatus == 0 ? stdout : stderr);
-    return parsed.exitStatus;
-  }
-  const PlayOptions& options = *parsed.options;
-  if (!options.tools.empty() && !std::filesystem::is_directory(options.tools)) {
-    SayTrouble("The tool folder \"" + options.tools + "\" can't be found.");
-    return kFileTrouble;
-  }
+int Run(const PlayOptions& options) {
   StartUp(options);
   if (!LoadProgram(options.program)) return kFileTrouble;
   const std::string source = frmMain::TextEditor().Text();
@@ -188,10 +218,43 @@ int main(int argc, char** argv) {
   }
   const bool hasFault = outcome.run == RunOutcome::SyntaxFault;
   const bool lacksBillet = outcome.run == RunOutcome::NoBillet;
-  if (hasFault) SayPlace(options, source, frmMain::TextEditor().SelStart());
-  if (lacksBillet) SayPlace(options, source, BilletOffset());
+  if (hasFault || lacksBillet) {
+    const std::size_t offset = hasFault ? frmMain::TextEditor().SelStart() : BilletOffset();
+    SayAt(options, PlaceOf(source, offset), Windowless::Messages().back().text);
+  } else {
+    outcome.warnings = BilletWarnings(source);
+  }
+  for (const auto& [text, place] : outcome.warnings) SayAt(options, place, "warning: " + text);
+  // A fault has been shown in the editor, which takes its place from the simulation area.
+  if (frmMain::mnuViewTextEditor.Checked) frmMain::mnuViewTextEditor_Click();
+  // A message has told that there is no memory for it.
+  if (Graphics::StockDC.Width() != options.size.width) return kFileTrouble;
   outcome.text = frmMain::TextEditor().Text();
   outcome.resumes = resumes;
   if (!WriteResults(options, outcome)) return kFileTrouble;
   return hasFault || lacksBillet ? kNotPlayable : kPlayed;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  const QCoreApplication application(argc, argv);
+  const ParsedOptions parsed = ParsePlayOptions(QCoreApplication::arguments());
+  if (!parsed.options) {
+    const std::string message = parsed.message.toStdString();
+    if (parsed.exitStatus == 0) return Print(message) ? kPlayed : kFileTrouble;
+    std::fputs(message.c_str(), stderr);
+    return parsed.exitStatus;
+  }
+  const PlayOptions& options = *parsed.options;
+  if (!options.tools.empty() && !std::filesystem::is_directory(options.tools)) {
+    SayTrouble("The tool folder \"" + options.tools + "\" can't be found.");
+    return kFileTrouble;
+  }
+  try {
+    return Run(options);
+  } catch (const std::bad_alloc&) {
+    SayTrouble("There isn't enough memory. Ask for a smaller --size.");
+    return kFileTrouble;
+  }
 }

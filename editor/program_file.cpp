@@ -43,25 +43,34 @@ std::string TooLongReason(const std::string& path, const std::string& text) {
   return {};
 }
 
-}  // namespace
-
-bool LoadFile(const std::string& path, std::string& reason) {
-  const auto bytes = ReadFile(path, reason);
-  if (!bytes) return false;
-  const DecodedText decoded = DecodeProgram(*bytes);
+// Into TextBuffer.
+bool TakeProgram(const std::string& name, std::string_view bytes, std::string& reason) {
+  const DecodedText decoded = DecodeProgram(bytes);
   std::string text = WithCrLf(decoded.text);
-  if (std::string tooLong = TooLongReason(path, text); !tooLong.empty()) {
+  if (std::string tooLong = TooLongReason(name, text); !tooLong.empty()) {
     reason = std::move(tooLong);
     return false;
   }
   TextBuffer().SetText(std::move(text));
   DocumentIsUtf8 = decoded.isUtf8;
-  fileBytes = *bytes;
+  fileBytes = bytes;
   return true;
 }
 
+}  // namespace
+
+bool LoadFile(const std::string& path, std::string& reason) {
+  const auto bytes = ReadFile(path, reason);
+  return bytes && TakeProgram(path, *bytes, reason);
+}
+
 bool LoadProgram(const std::string& path, std::string& reason) {
-  if (!LoadFile(path, reason)) return false;
+  const auto bytes = ReadFile(path, reason);
+  return bytes && ShowProgram(path, *bytes, reason);
+}
+
+bool ShowProgram(const std::string& name, std::string_view bytes, std::string& reason) {
+  if (!TakeProgram(name, bytes, reason)) return false;
   ColourText();
   EnableCommands(kLoadedProgramCommands, true);
   return true;

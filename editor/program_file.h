@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 // The way of a program between its file and the controls. A file is plain text, single bytes of
 // the code page, unless it was UTF-8 when it was read.
@@ -19,6 +20,9 @@ bool LoadFile(const std::string& path, std::string& reason);
 
 // As LoadFile, and brings the program to the editor, coloured and saved, with its commands open.
 bool LoadProgram(const std::string& path, std::string& reason);
+
+// As LoadProgram, from bytes that have been read; `name` is what a reason calls them.
+bool ShowProgram(const std::string& name, std::string_view bytes, std::string& reason);
 
 // True when the document's file isn't as it was when it was last read or written here, and not as
 // the editor has it either: another program has changed or removed it.

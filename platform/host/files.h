@@ -23,6 +23,9 @@ constexpr int kMaxFileSize = 64 * 1024 * 1024;
 // All bytes of a file.
 std::optional<std::string> ReadFile(const std::string& path, std::string& reason);
 
+// All bytes of standard input, to its end, within the same limit.
+std::optional<std::string> ReadStandardInput(std::string& reason);
+
 // Replaces a file as a whole or not at all, even if the program is killed in the middle: after a
 // failure the old file is as it was. Owner, group, mode, access list, extended attributes and other
 // names of the file stay; where a new file can't have them the old one is written over, from a copy

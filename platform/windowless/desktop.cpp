@@ -54,7 +54,9 @@ int MessageBox(const std::string& text, int style, const std::string& title) {
   messages.push_back({text, style, title});
   // In place of the progress of the run.
   if (isatty(STDERR_FILENO) != 0) std::fputs("\r\x1b[K", stderr);
-  std::fprintf(stderr, "%s%s%s\n", title.c_str(), title.empty() ? "" : " ", text.c_str());
+  // Whole, also where a text holds a NUL.
+  const std::string line = title + (title.empty() ? "" : " ") + text + '\n';
+  std::fwrite(line.data(), 1, line.size(), stderr);
   // The first button is the default one.
   return (style & (kYesNoCancel | kYesNo)) != kOkOnly ? kYes : kOk;
 }

@@ -1,9 +1,12 @@
 // turnbay-play as scripts use it: exit status, what is said where, and what is written.
 
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
 #include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
 
 #include "tests/platform/qt/temporary_folder.h"
 
@@ -40,30 +43,89 @@ TEST_F(PlayerTest, WrongUsageAndUnreadableFilesEndWithTwoAndAReason) {
       {{"rows.cnc"}, "32768 lines"},
       {{"--report", "no/such/r.json", "good.cnc"}, "no/such/r.json"},
       {{"--tools", "no/tools", "good.cnc"}, "\"no/tools\""},
-      {{"--picture", ".", "good.cnc"}, "can't be written"}};
+      {{"--picture", ".", "good.cnc"}, "can't be written"},
+      {{"--picture", "", "good.cnc"}, "--picture needs"},
+      {{"--tools", "", "good.cnc"}, "--tools needs"}};
   for (const auto& [arguments, reason] : cases) {
     EXPECT_EQ(2, Run(arguments)) << reason;
     EXPECT_TRUE(err_.contains(reason)) << err_.toStdString();
     EXPECT_TRUE(out_.isEmpty());
   }
   player_.setStandardOutputFile("/dev/full");
-  for (const QStringList& printing : {QStringList{"--reformat"}, QStringList{"--report", "-"}}) {
+  for (const QStringList& printing :
+       {QStringList{"--reformat"}, QStringList{"--report", "-"}, QStringList{"--help"}}) {
     EXPECT_EQ(2, Run(printing + QStringList{"good.cnc"}));
     EXPECT_TRUE(err_.contains("No space left")) << err_.toStdString();
   }
 }
 
+TEST_F(PlayerTest, WhatIsNoOrdinaryFileIsRefusedAtOnce) {
+  constexpr const char* kNames[] = {"p.cnc", "ToolList.ini", "t.ini", "t.bmp"};
+  for (const std::string pipe : kNames) {
+    Put("p.cnc", "[BILLET X4 Z2\nT3 M06");
+    Put("ToolList.ini", "3=t.bmp");
+    Put("t.ini", "TOOLWIDTH=9\nTOOLHEIGHT=9");
+    std::filesystem::remove(Path(pipe.c_str()));
+    ASSERT_EQ(0, mkfifo(Path(pipe.c_str()).c_str(), 0600));
+    EXPECT_EQ(pipe == "p.cnc" ? 2 : 0, Run({"--tools", ".", "p.cnc"}));
+    EXPECT_TRUE(err_.contains((pipe + "\" can't be read: it is no ordinary file.").c_str()))
+        << err_.toStdString();
+    std::filesystem::remove(Path(pipe.c_str()));
+  }
+}
+
+// A billet line names both sizes whatever blanks it has, or is warned about.
+TEST_F(PlayerTest, ReadsStandardInputAndWarnsOfASizeThatIsNotNamed) {
+  const struct {
+    const char *text, *warning;
+    int diameter, length;
+  } cases[] = {
+      {"[BILLET  X4   Z2 ", "", 40, 20},
+      {"G04\n [BILLET  X4 Y2", "-:2:2: warning: The billet line names no length (Z)", 40, 0},
+      {"N1 [BILLET Z4 Z2", "-:1:4: warning: The billet line names no diameter (X)", 0, 40}};
+  for (const auto& c : cases) {
+    Put("p.cnc", c.text);
+    player_.setStandardInputFile(QString::fromStdString(Path("p.cnc")));
+    EXPECT_EQ(0, Run({"--report", "-", "-"}));
+    EXPECT_TRUE(err_.contains(c.warning)) << err_.toStdString();
+    const QJsonArray warnings = Report()["warnings"].toArray();
+    EXPECT_EQ(*c.warning != '\0',
+              !warnings.isEmpty() && err_.contains(warnings[0]["text"].toString().toUtf8()));
+    const QJsonObject registers = Report()["registers"].toObject();
+    EXPECT_EQ(c.diameter, registers["BilletX"].toInt());
+    EXPECT_EQ(c.length, registers["BilletZ"].toInt());
+  }
+}
+
+TEST_F(PlayerTest, WhatThereIsNoMemoryForIsToldAndTheOldFileStays) {
+  player_.setChildProcessModifier([] {
+    const rlimit most{1'000'000'000, 1'000'000'000};
+    setrlimit(RLIMIT_AS, &most);
+  });
+  if (Run({"--version"}) != 0) GTEST_SKIP() << "the sanitizer itself needs more";
+  Put("p.cnc", "[BILLET X4 Z2");
+  for (const char* size : {"16384x16384", "12000x12000"}) {
+    Put("p.png", "old");
+    EXPECT_EQ(2, Run({"--size", size, "--picture", "p.png", "p.cnc"}));
+    EXPECT_TRUE(err_.contains("enough memory")) << err_.toStdString();
+    EXPECT_TRUE(Bytes("p.png") == "old");
+  }
+}
+
 TEST_F(PlayerTest, AFaultIsToldAtItsPlaceInTheFile) {
-  constexpr const char* kCases[][3] = {
+  const std::string cases[][3] = {
+      {std::string("G0\0X", 4), std::string("p.cnc:1:3: An invalid character '\0' was found.", 44),
+       "syntax error"},
       {"\n\n g01x20 [a\n\t\n n5  g48 y3", "p.cnc:5:6: G48 is not a valid G Code", "syntax error"},
       {"[BILLET X20 Z40\rG01 F0,3", "p.cnc:2:7: An invalid character ',' was found.",
        "syntax error"},
       {"G00 X20\n\n  [BILLET X20", "p.cnc:3:3: Billet Size Not Found", "no billet"},
       {"", "p.cnc:1:1: Billet Size Not Found", "no billet"}};
-  for (const auto& [text, place, outcome] : kCases) {
+  for (const auto& [text, place, outcome] : cases) {
     Put("p.cnc", text);
-    EXPECT_EQ(1, Run({"--report", "-", "p.cnc"})) << text;
-    EXPECT_TRUE(err_.contains(place)) << err_.toStdString();
+    EXPECT_EQ(1, Run({"--size", "70x40", "--picture", "p.png", "--report", "-", "p.cnc"})) << text;
+    EXPECT_EQ(std::string("\0\0\0F\0\0\0(", 8), Bytes("p.png").substr(16, 8)) << "as asked for";
+    EXPECT_TRUE(err_.contains(QByteArray::fromStdString(place))) << err_.toStdString();
     EXPECT_EQ(outcome, Report()["outcome"].toString().toStdString());
   }
 }

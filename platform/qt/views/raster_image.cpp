@@ -1,5 +1,7 @@
 #include "platform/qt/views/raster_image.h"
 
+#include <new>
+
 namespace {
 
 // From 0x00BBGGRR, and back.
@@ -23,6 +25,7 @@ Raster ToRaster(const QImage& image) {
 
 QImage ToQImage(const Raster& raster) {
   QImage image(raster.Width(), raster.Height(), QImage::Format_RGB32);
+  if (image.width() != raster.Width()) throw std::bad_alloc();
   CopyPixels(raster, raster.Area(), image);
   return image;
 }

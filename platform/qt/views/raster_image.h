@@ -5,7 +5,7 @@
 #include "platform/raster.h"
 
 // Between a raster and Qt's picture; each pixel keeps its colour. In a QImage they are
-// Format_RGB32.
+// Format_RGB32. Both throw std::bad_alloc.
 Raster ToRaster(const QImage& image);
 QImage ToQImage(const Raster& raster);
 
