@@ -1,10 +1,11 @@
 #include "platform/host/settings_store.h"
 
-#include <QFileInfo>
 #include <QStandardPaths>
+#include <cerrno>
 #include <filesystem>
 #include <map>
 #include <optional>
+#include <sys/stat.h>
 #include <system_error>
 #include <tuple>
 #include <utility>
@@ -43,8 +44,10 @@ std::string StorePath(std::string_view application) {
 // Its text; one that isn't there yet is empty. Without a result it couldn't be read.
 std::optional<std::string> ReadStore(std::string_view application) {
   const std::string path = StorePath(application);
-  const QFileInfo file(QString::fromStdString(path));
-  if (!file.exists() && !file.isSymLink()) return "";
+  struct stat status {};
+  // Any other error is no proof that there is none.
+  const bool isFound = lstat(path.c_str(), &status) == 0;
+  if (!isFound && (errno == ENOENT || errno == ENOTDIR)) return "";
   std::string reason;
   auto text = ReadFile(path, reason);
   if (!text) {
