@@ -61,6 +61,8 @@ OptionsDialog::OptionsDialog(QWidget* parent)
   right->addWidget(tabs_);
   layout->addLayout(right, 1);
   layout->insertWidget(0, MakeStrip());
+  // Of the dialog, which the button has joined only now.
+  cmdOK_->setDefault(true);
   setFixedSize(sizeHint().expandedTo(kSmallestSize));
 
   LoadWorkingColors();
@@ -70,15 +72,14 @@ OptionsDialog::OptionsDialog(QWidget* parent)
 QWidget* OptionsDialog::MakeStrip() {
   auto* strip = new PictureStrip(":/pictures/options.png", Qt::Vertical);
   strip->setObjectName("Image2");
-  QPushButton* cmdOK = MakeButton("cmdOK", "&OK");
+  cmdOK_ = MakeButton("cmdOK", "&OK");
   QPushButton* cmdEditorCancel = MakeButton("cmdEditorCancel", "&Cancel");
-  cmdOK->setDefault(true);
   auto* column = new QVBoxLayout(strip);
   column->setContentsMargins(16, 16, 16, 16);
   column->addStretch(1);
-  column->addWidget(cmdOK);
+  column->addWidget(cmdOK_);
   column->addWidget(cmdEditorCancel);
-  connect(cmdOK, &QPushButton::clicked, this, [this] { cmdOK_Click(); });
+  connect(cmdOK_, &QPushButton::clicked, this, [this] { cmdOK_Click(); });
   connect(cmdEditorCancel, &QPushButton::clicked, this, &QDialog::reject);
   return strip;
 }

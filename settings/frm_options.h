@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDialog>
+#include <QPushButton>
 #include <QTabWidget>
 
 #include "settings/settings.h"
@@ -29,6 +30,7 @@ class OptionsDialog : public QDialog {
   DebugPage* debug_;
   SimulationPage* simulation_;
   QTabWidget* tabs_;
+  QPushButton* cmdOK_;
 };
 
 }  // namespace frmOptions

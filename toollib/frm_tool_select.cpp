@@ -147,6 +147,8 @@ ToolLibraryDialog::ToolLibraryDialog(QWidget* parent) : QDialog(parent) {
   right->addWidget(MakeButtons());
   columns->addLayout(right, 1);
   layout->addLayout(columns, 1);
+  // Of the dialog, which the button has joined only now.
+  cmdAssign_->setDefault(true);
   setFixedSize(sizeHint().expandedTo(kSmallestSize));
   Form_Load();
 }
@@ -207,7 +209,6 @@ QWidget* ToolLibraryDialog::MakeButtons() {
   auto* layout = new QHBoxLayout(buttons);
   layout->setContentsMargins(0, 0, 0, 0);
   cmdAssign_ = MakeButton("cmdAssign", "&Assign");
-  cmdAssign_->setDefault(true);
   QPushButton* cmdClose = MakeButton("cmdClose", "&Close");
   layout->addStretch(1);
   layout->addWidget(cmdAssign_);

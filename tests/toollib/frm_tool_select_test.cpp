@@ -12,6 +12,8 @@ class ToolLibraryTest : public DialogTest {
     Choose("cmbTools", tool);
     auto& files = The<QListWidget>("FileList");
     files.setCurrentItem(files.findItems(file, Qt::MatchExactly).value(0));
+    The<QWidget>("cmdClose").setFocus();
+    files.setFocus();
     QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Return);
     EXPECT_EQ(file, The<QLabel>("lblFile").text());
   }
