@@ -50,6 +50,13 @@ QString DraggedFile(const QMimeData& data) {
   return {};
 }
 
+// A copy always: a source that moves its file takes it away afterwards.
+void AcceptCopy(QDropEvent& event) {
+  if (!event.possibleActions().testFlag(Qt::CopyAction)) return;
+  event.setDropAction(Qt::CopyAction);
+  event.accept();
+}
+
 }  // namespace
 
 Window::Window() : form_(new QWidget) {
@@ -211,13 +218,17 @@ void Window::closeEvent(QCloseEvent* event) {
 
 void Window::dragEnterEvent(QDragEnterEvent* event) {
   if (Toolbar.Buttons("Open").Enabled && !DraggedFile(*event->mimeData()).isEmpty()) {
-    event->acceptProposedAction();
+    AcceptCopy(*event);
   }
 }
 
 void Window::dropEvent(QDropEvent* event) {
+void Window::dragMoveEvent(QDragMoveEvent* event) {
+  AcceptCopy(*event);
+}
+
   const std::string file = DraggedFile(*event->mimeData()).toStdString();
-  event->acceptProposedAction();
+  AcceptCopy(*event);
   // Whoever is dragged from waits until this has returned, but the save question may take long.
   const auto open = [this, file] {
     activateWindow();

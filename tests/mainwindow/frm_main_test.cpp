@@ -489,10 +489,21 @@ TEST_F(WindowTest, ADroppedFileIsOpened) {
   Open();
   QMimeData data;
   data.setUrls({QUrl::fromLocalFile(WriteProgram("a&b.cnc", kProgram))});
-  QDragEnterEvent enter({50, 200}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-  QApplication::sendEvent(window.get(), &enter);
-  QDropEvent drop({50, 200}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-  QApplication::sendEvent(window.get(), &drop);
+  // A source that would rather move it away, and one that can't do else.
+  for (const auto actions : {Qt::CopyAction | Qt::MoveAction, Qt::DropActions(Qt::MoveAction)}) {
+    QDragEnterEvent enter({50, 200}, actions, &data, Qt::LeftButton, Qt::NoModifier);
+    QDragMoveEvent move({50, 200}, actions, &data, Qt::LeftButton, Qt::NoModifier);
+    QDropEvent drop({50, 200}, actions, &data, Qt::LeftButton, Qt::NoModifier);
+    for (QDropEvent* event :
+         {static_cast<QDropEvent*>(&enter), static_cast<QDropEvent*>(&move), &drop}) {
+      event->setDropAction(Qt::MoveAction);
+      event->ignore();
+      QApplication::sendEvent(window.get(), event);
+      const bool copies = actions.testFlag(Qt::CopyAction);
+      EXPECT_EQ(copies, event->isAccepted());
+      EXPECT_EQ(copies, event->dropAction() == Qt::CopyAction);
+    }
+  }
   QApplication::processEvents();
   EXPECT_EQ("a&b.cnc", The<QLabel>("FileName").text());
   EXPECT_EQ("&1   a&&b.cnc", The<QAction>("mnuFileRecentFiles(0)").text());
