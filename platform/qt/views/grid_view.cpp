@@ -112,6 +112,17 @@ class LineNumbers : public QHeaderView {
     QPainter(viewport())
         .fillRect(0, end, width(), viewport()->height() - end, ToQColor(kEmptyAreaColour));
   }
+  // A header keeps the pixels beside a border for sizing, also where rows have fixed sizes.
+  void mousePressEvent(QMouseEvent* event) override {
+    const int row = logicalIndexAt(event->position().toPoint());
+    if (event->button() == Qt::LeftButton && row >= 0) emit sectionPressed(row);
+  }
+  void mouseDoubleClickEvent(QMouseEvent* event) override {
+    const int row = logicalIndexAt(event->position().toPoint());
+    if (event->button() == Qt::LeftButton && row >= 0) emit sectionDoubleClicked(row);
+  }
+  void mouseMoveEvent(QMouseEvent* /*event*/) override {}
+  void mouseReleaseEvent(QMouseEvent* /*event*/) override {}
 
  private:
   const GridTable& table_;
