@@ -1,6 +1,7 @@
 #include "mainwindow/frm_main_tool_bar.h"
 
 #include <QAction>
+#include <QActionEvent>
 #include <QContextMenuEvent>
 #include <QMenu>
 #include <QToolButton>
@@ -46,20 +47,27 @@ ToolBarView::ToolBarView(QWidget* parent) : QToolBar(parent) {
 void ToolBarView::AddButton(ToolButton& button) {
   const QString key = QString::fromUtf8(button.Key.data(), static_cast<int>(button.Key.size()));
   QAction* action = addAction(CommandIcon(key), key);
-  action->setObjectName(key);
   action->setToolTip(key);
   connect(action, &QAction::triggered, this,
           [command = MenuCommand(button.Key)] { command.Choose(); });
-  QWidget* widget = widgetForAction(action);
-  widget->setObjectName(key);
-  widget->setAccessibleName(key);
-  widget->installEventFilter(this);
   bindings_.Bind(button.Enabled, [action](bool enabled) { action->setEnabled(enabled); });
   bindings_.Bind(button.Caption,
                  [this, action](const std::string& caption) { ShowCaption(*action, caption); });
   if (button.Key != "Step") return;
   action->setCheckable(true);
   bindings_.Bind(button.Value, [action](int value) { action->setChecked(value != 0); });
+}
+
+// Also when a button is moved, which makes it anew.
+void ToolBarView::actionEvent(QActionEvent* event) {
+  QToolBar::actionEvent(event);
+  QAction* action = event->action();
+  if (event->type() != QEvent::ActionAdded || action->isSeparator()) return;
+  action->setObjectName(action->text());
+  QWidget* button = widgetForAction(action);
+  button->setObjectName(action->text());
+  button->setAccessibleName(action->text());
+  button->installEventFilter(this);
 }
 
 // All buttons have labels or none has one.

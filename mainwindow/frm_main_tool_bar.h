@@ -21,6 +21,7 @@ class ToolBarView : public QToolBar {
   explicit ToolBarView(QWidget* parent);
 
  protected:
+  void actionEvent(QActionEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:

@@ -461,7 +461,9 @@ TEST_F(WindowTest, ARowTakesPastedLinesAsOneAndIsFollowedByItsEdit) {
   }
   EXPECT_EQ(QRect(0, form.height() - 25, form.width(), 25), The<QWidget>("StatusBar").geometry());
   EXPECT_EQ(form.width(), The<QWidget>("Toolbar").width());
-  // On a button that is closed, too.
+  // On a button that is closed, and moved, too.
+  The<QToolBar>("Toolbar").insertAction(&The<QAction>("New"), &The<QAction>("Pause"));
+  EXPECT_EQ("Pause", The<QToolButton>("Pause").accessibleName());
   QContextMenuEvent press(QContextMenuEvent::Mouse, {3, 3},
                           The<QToolButton>("Pause").mapToGlobal(QPoint(3, 3)));
   QApplication::sendEvent(&The<QToolButton>("Pause"), &press);
