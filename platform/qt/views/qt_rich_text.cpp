@@ -164,6 +164,7 @@ void QtRichText::SetSelText(std::string_view text) {
 void QtRichText::keyPressEvent(QKeyEvent* event) {
   std::int16_t keyCode = VirtualKey(*event);
   std::int16_t shift = ShiftState(*event);
+  pressedKeys_[event->nativeScanCode()] = keyCode;
   const bool isKnown = keyCode != 0;
   const QScopedValueRollback formatted(formattedSelection_, false);
   if (Keys.KeyDown) Keys.KeyDown(keyCode, shift);
@@ -184,7 +185,9 @@ void QtRichText::keyPressEvent(QKeyEvent* event) {
 
 void QtRichText::keyReleaseEvent(QKeyEvent* event) {
   QTextEdit::keyReleaseEvent(event);
-  if (!event->isAutoRepeat() && Keys.KeyUp) Keys.KeyUp(VirtualKey(*event), ShiftState(*event));
+  if (event->isAutoRepeat() || !Keys.KeyUp) return;
+  const auto pressed = pressedKeys_.extract(event->nativeScanCode());
+  Keys.KeyUp(pressed ? pressed.mapped() : VirtualKey(*event), ShiftState(*event));
 }
 
 // Characters that are composed, with a dead key for one, arrive here.

@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <functional>
 #include <string>
+#include <map>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -106,3 +107,6 @@ class QtRichText : public QTextEdit, public RichText {
   // Position behind what was typed last, or -1.
   int typedEnd_ = -1;
 };
+  // By the scan code of each key that is down, the virtual key that it was pressed as. It comes up
+  // as another one when AltGr has been let go first.
+  std::map<std::uint32_t, std::int16_t> pressedKeys_;

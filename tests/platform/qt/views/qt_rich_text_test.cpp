@@ -85,6 +85,16 @@ TEST_F(QtEditorTest, ABracketOffersNothingWhenTheUserWantsNone) {
   EXPECT_EQ("[\r\n", editor.Text());
 }
 
+TEST_F(QtEditorTest, ABracketOffersTheBilletAlsoWhenAltGrComesUpFirst) {
+  Settings.AutoComplete = 1;
+  for (const auto& [type, key] :
+       {std::pair{QEvent::KeyPress, Qt::Key_BracketLeft}, {QEvent::KeyRelease, Qt::Key_8}}) {
+    QKeyEvent event(type, key, Qt::NoModifier, 17, 0, 0, "[");
+    QApplication::sendEvent(&editor, &event);
+  }
+  EXPECT_EQ("BILLET", editor.SelText());
+}
+
 TEST_F(QtEditorTest, SelectionCountsALineEndAsTwo) {
   editor.SetText("G00\r\nX20\r\n\r\nZ5");
   Press(Qt::Key_End);
