@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
+#include <QMenu>
 #include <QMimeData>
 #include <QScopedValueRollback>
 #include <QTextBlock>
@@ -166,6 +167,8 @@ void QtRichText::keyPressEvent(QKeyEvent* event) {
   std::int16_t shift = ShiftState(*event);
   pressedKeys_[event->nativeScanCode()] = keyCode;
   const bool isKnown = keyCode != 0;
+  if (event->matches(QKeySequence::Undo)) return Undo();
+  if (event->matches(QKeySequence::Redo)) return Redo();
   const QScopedValueRollback formatted(formattedSelection_, false);
   if (Keys.KeyDown) Keys.KeyDown(keyCode, shift);
   if (isKnown && keyCode == 0) return;
@@ -182,6 +185,18 @@ void QtRichText::keyPressEvent(QKeyEvent* event) {
     QTextEdit::keyPressEvent(event);
   }
 }
+void QtRichText::contextMenuEvent(QContextMenuEvent* event) {
+  QMenu* menu = createStandardContextMenu(event->pos());
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  for (QAction* entry : menu->actions()) {
+    const bool isUndo = entry->objectName() == "edit-undo";
+    if (!isUndo && entry->objectName() != "edit-redo") continue;
+    entry->disconnect(SIGNAL(triggered(bool)));
+    connect(entry, &QAction::triggered, this, isUndo ? &QtRichText::Undo : &QtRichText::Redo);
+  }
+  menu->popup(event->globalPos());
+}
+
 
 void QtRichText::keyReleaseEvent(QKeyEvent* event) {
   QTextEdit::keyReleaseEvent(event);
@@ -321,7 +336,8 @@ void QtRichText::Recolour(const FormattedText& formatted) {
   const QScopedValueRollback quiet(quiet_, true);
   const FormattedText former = TextRTF();
   const bool hasHistory = document()->isUndoAvailable();
-  QTextCursor history(document());
+  // Its place is where an undo puts the caret.
+  QTextCursor history = textCursor();
   if (hasHistory) {
     history.joinPreviousEditBlock();
   } else {
@@ -377,6 +393,36 @@ void QtRichText::SetSelFormat(Value TextFormat::*member, const Value& value) {
   selection.endEditBlock();
   formattedSelection_ = true;
 }
+void QtRichText::Undo() {
+  Travel(&QTextDocument::isUndoAvailable, &QTextDocument::undo);
+}
+void QtRichText::Redo() {
+  Travel(&QTextDocument::isRedoAvailable, &QTextDocument::redo);
+}
+
+// A step of colours alone shows nothing, so it goes with the next one of text.
+void QtRichText::Travel(bool (QTextDocument::*isAvailable)() const, HistoryStep step) {
+  if (Locked) return;
+  const std::string former = Text();
+  QTextCursor cursor = textCursor();
+  while ((document()->*isAvailable)() && Text() == former) (document()->*step)(&cursor);
+  if (Text() == former) return;
+  // A step that colours as well leaves the cursor behind the colours. Where characters repeat, the
+  // end of what has changed isn't one place but a range, within which the cursor is right.
+  const std::string& now = Text();
+  const std::size_t shorter = std::min(former.size(), now.size());
+  const auto common = [](auto from, auto to, auto other) {
+    return static_cast<std::size_t>(std::mismatch(from, to, other).first - from);
+  };
+  const auto reach = static_cast<std::ptrdiff_t>(shorter);
+  const std::size_t front = common(now.begin(), now.begin() + reach, former.begin());
+  const std::size_t back = common(now.rbegin(), now.rbegin() + reach, former.rbegin());
+  const std::size_t earliest = now.size() - back;
+  const std::size_t latest = now.size() - std::min(back, shorter - front);
+  SetSelStart(std::clamp(OffsetOf(cursor.position()), earliest, latest));
+  ensureCursorVisible();
+}
+
 
 void QtRichText::InsertText(std::string_view bytes) {
   // The editor's own cursor moves along.
@@ -400,7 +446,7 @@ void QtRichText::TypeByte(std::int16_t character) {
   // A word is undone as a whole, whatever its colours.
   const bool startsWord = isLineEnd || byte == ' ' || textCursor().hasSelection();
   const bool continues = typedEnd_ == textCursor().position() && !startsWord;
-  QTextCursor history(document());
+  QTextCursor history = textCursor();
   if (document()->isUndoAvailable() && (continues || formattedSelection_)) {
     history.joinPreviousEditBlock();
   } else {

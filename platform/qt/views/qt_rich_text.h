@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QTextCharFormat>
+#include <QTextDocument>
 #include <QTextEdit>
 #include <cstddef>
 #include <cstdint>
@@ -62,7 +63,12 @@ class QtRichText : public QTextEdit, public RichText {
  protected:
   void keyPressEvent(QKeyEvent* event) override;
   void keyReleaseEvent(QKeyEvent* event) override;
+  // To the last text that differs, colours along with it; the caret goes where the text did.
+  void Undo();
+  void Redo();
+
   void inputMethodEvent(QInputMethodEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
   bool canInsertFromMimeData(const QMimeData* source) const override;
   void insertFromMimeData(const QMimeData* source) override;
   QMimeData* createMimeDataFromSelection() const override;
@@ -91,6 +97,9 @@ class QtRichText : public QTextEdit, public RichText {
   void InsertText(std::string_view bytes);
   // What the user typed, by way of KeyPress; refused with a beep if it isn't in the code page.
   void Type(const QString& characters);
+  using HistoryStep = void (QTextDocument::*)(QTextCursor*);
+  void Travel(bool (QTextDocument::*isAvailable)() const, HistoryStep step);
+
   void TypeByte(std::int16_t character);
 
   // Rebuilt from the document when somebody asks for it. Whoever watches changes asks at each, so

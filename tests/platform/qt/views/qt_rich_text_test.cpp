@@ -118,16 +118,19 @@ TEST_F(QtEditorTest, UndoGoesBackWordByWordAndNeverIntoAColouring) {
   EXPECT_EQ(coloured, editor.TextRTF());
   editor.SetSelStart(7);
   TypeKeys(" Z5");
-  editor.undo();
+  editor.Undo();
   EXPECT_EQ(coloured, editor.TextRTF());
-  editor.undo();
+  EXPECT_EQ(7u, editor.SelStart());
+  editor.Undo();
   EXPECT_EQ("G01", editor.Text());
   EXPECT_EQ("lnn", Shown(editor.TextRTF()));
   EXPECT_FALSE(editor.TextRTF().runs.front().format.bold);
-  editor.redo();
+  EXPECT_EQ(3u, editor.SelStart());
+  editor.Redo();
   EXPECT_EQ(coloured, editor.TextRTF());
+  EXPECT_EQ(7u, editor.SelStart()) << "behind the text, not the colours";
   editor.SetTextRTF({"M30", {{0, {}}}});
-  editor.undo();
+  editor.Undo();
   EXPECT_EQ("M30", editor.Text()) << "a text put in by the program is no edit";
 }
 
@@ -140,13 +143,13 @@ TEST_F(QtEditorTest, EachUserEditIsHeardOnce) {
   Paste("G00\nZ5");
   Press(Qt::Key_A, Qt::ControlModifier);
   TypeKeys("M");
-  editor.undo();
+  editor.Undo();
   // Colours the number that it passes, which is no change of the text, nor is taking it back.
   editor.SetSelStart(1);
   Press(Qt::Key_Right, Qt::ShiftModifier);
   Press(Qt::Key_Right, Qt::ShiftModifier);
   Press(Qt::Key_Z, Qt::ControlModifier);
-  EXPECT_EQ("G||G00\r\nZ5|M|G00\r\nZ5|", heard);
+  EXPECT_EQ("G||G00\r\nZ5|M|G00\r\nZ5||", heard) << "colours alone are no step of an undo";
 }
 
 TEST_F(QtEditorTest, CharactersBeyondTheCodePageAreRefused) {
