@@ -1,5 +1,6 @@
 #include "mainwindow/fading_window.h"
 
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QPainterPath>
 
@@ -17,6 +18,11 @@ constexpr int kOpaque = 255;
 // In pixels, one for all windows: a smaller one has only its upper left corner rounded.
 constexpr QSize kRegion(545, 355);
 constexpr int kCornerRadius = 10;
+
+// A Wayland client can't ask for it.
+bool HasWindowOpacity() {
+  return !QGuiApplication::platformName().startsWith("wayland");
+}
 
 QRegion RoundedRegion() {
   QPainterPath outline;
@@ -46,12 +52,16 @@ FadingWindow::FadingWindow(const QString& name, Qt::WindowType type, const QSize
 
 void FadingWindow::FadeIn() {
   Timer2.stop();
-  Timer1.start();
+  if (HasWindowOpacity()) Timer1.start();
 }
 
 void FadingWindow::FadeOut() {
   Timer1.stop();
-  Timer2.start();
+  if (HasWindowOpacity()) {
+    Timer2.start();
+  } else {
+    close();
+  }
 }
 
 void FadingWindow::mouseReleaseEvent(QMouseEvent* /*event*/) {
@@ -85,5 +95,8 @@ void FadingWindow::Timer2_Timer() {
 }
 
 void FadingWindow::SetWindowAlpha(std::int16_t alpha) {
+  if (!HasWindowOpacity()) return;
   setWindowOpacity(static_cast<double>(alpha) / kOpaque);
+  // What a timer asks of the display waits for the next event; a paint takes it along.
+  update();
 }
