@@ -1,6 +1,7 @@
 #include <QApplication>
 #include <QIcon>
 #include <QTimer>
+#include <memory>
 
 #include "interpreter/machine.h"
 #include "mainwindow/control_surface.h"
@@ -20,11 +21,24 @@ QIcon ProgramIcon() {
   return icon;
 }
 
+// Wayland lets no client place, shape or fade a window, so an X display is taken where one answers.
+// What the user has chosen stands.
+std::unique_ptr<QApplication> MakeApplication(int& argc, char** argv) {
+  constexpr const char* kPlatform = "QT_QPA_PLATFORM";
+  const bool prefersX =
+      !qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty(kPlatform);
+  if (prefersX) qputenv(kPlatform, "xcb;wayland");
+  auto application = std::make_unique<QApplication>(argc, argv);
+  // It is none of the programs that are started from here.
+  if (prefersX) qunsetenv(kPlatform);
+  return application;
+}
+
 }  // namespace
 
 // The desktop program.
 int main(int argc, char** argv) {
-  const QApplication application(argc, argv);
+  const auto application = MakeApplication(argc, argv);
   QApplication::setApplicationName("turnbay");
   QApplication::setApplicationVersion(TURNBAY_VERSION);
   QApplication::setWindowIcon(ProgramIcon());
