@@ -1,6 +1,8 @@
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPointer>
 #include <QScreen>
+#include <QWindow>
 
 #include "interpreter/machine.h"
 #include "mainwindow/control_surface.h"
@@ -48,6 +50,8 @@ class InfoWindow : public FadingWindow {
     // The user may be typing, and not every window manager heeds the first of these.
     setAttribute(Qt::WA_ShowWithoutActivating);
     setWindowFlag(Qt::WindowDoesNotAcceptFocus);
+    // So that Esc is pressed in its owner.
+    if (parentWidget() != nullptr) parentWidget()->windowHandle()->installEventFilter(this);
     show();
   }
 
@@ -60,6 +64,14 @@ class InfoWindow : public FadingWindow {
     setWindowFlag(Qt::WindowDoesNotAcceptFocus, false);
     FadeIn();
     exec();
+  }
+
+ protected:
+  bool eventFilter(QObject* owner, QEvent* event) override {
+    if (event->type() == QEvent::KeyRelease) {
+      keyReleaseEvent(static_cast<QKeyEvent*>(event));
+    }
+    return FadingWindow::eventFilter(owner, event);
   }
 
  private:

@@ -1,6 +1,7 @@
 #include "mainwindow/frm_splash.h"
 
 #include <QApplication>
+#include <QKeyEvent>
 #include <QPainter>
 #include <QScreen>
 
@@ -15,17 +16,26 @@ constexpr QSize kSize(543, 355);
 constexpr QPoint kVersionPlace(32, 332);
 constexpr int kVersionSize = 13;
 constexpr QColor kVersionColour(0xC9, 0xD3, 0xDE);
+constexpr const char* kHint = "Click or press Esc to begin";
 
 // The picture of the program with its version.
 class SplashWindow : public FadingWindow {
  public:
   SplashWindow() : FadingWindow("frmSplash", Qt::Dialog, kSize) {
     setWindowTitle(Desktop::kProgramTitle);
+    setAccessibleDescription(kHint);
     const QRect screenArea = screen()->geometry();
     move(screenArea.center() - rect().center());
   }
 
  protected:
+  // A key that is held since it opened the window is none of it.
+  void keyPressEvent(QKeyEvent* event) override {
+    const int key = event->key();
+    const bool clicks = key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter;
+    if (clicks && !event->isAutoRepeat()) FadeOut();
+  }
+
   void paintEvent(QPaintEvent* /*event*/) override {
     QPainter painter(this);
     painter.drawPixmap(0, 0, picture_);
@@ -34,6 +44,9 @@ class SplashWindow : public FadingWindow {
     painter.setFont(font);
     painter.setPen(kVersionColour);
     painter.drawText(kVersionPlace, "Version " + QApplication::applicationVersion());
+    // As far from the right edge as the version is from the left one.
+    const int hintWidth = painter.fontMetrics().horizontalAdvance(kHint);
+    painter.drawText(width() - kVersionPlace.x() - hintWidth, kVersionPlace.y(), kHint);
   }
 
  private:

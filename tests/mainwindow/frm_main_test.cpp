@@ -28,6 +28,7 @@
 #include "interpreter/machine.h"
 #include "mainwindow/control_surface.h"
 #include "mainwindow/program_start.h"
+#include "mainwindow/notifications.h"
 #include "platform/host/settings_store.h"
 #include "settings/settings.h"
 #include "tests/golden.h"
@@ -505,6 +506,15 @@ TEST_F(WindowTest, ADroppedFileIsOpened) {
       EXPECT_EQ(copies, event->isAccepted());
       EXPECT_EQ(copies, event->dropAction() == Qt::CopyAction);
     }
+TEST_F(WindowTest, EscDismissesTheNotificationBesideIt) {
+  Open();
+  frmMain::ShowInfoWindow(0, 30'000);
+  const auto isUp = [&] { return window->findChild<QDialog*>("frmInfo") != nullptr; };
+  EXPECT_TRUE(isUp());
+  Key(Qt::Key_Escape);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return !isUp(); }));
+}
+
   }
   QApplication::processEvents();
   EXPECT_EQ("a&b.cnc", The<QLabel>("FileName").text());
