@@ -1,7 +1,9 @@
 #include "mainwindow/frm_main_row_edit.h"
 
 #include <QKeyEvent>
+#include <QScrollBar>
 #include <QValidator>
+#include <algorithm>
 #include <cmath>
 
 #include "debugger/row_edit.h"
@@ -25,7 +27,7 @@ class CodePageValidator : public QValidator {
 
 }  // namespace
 
-RowEditBox::RowEditBox(QWidget* grid) : QLineEdit(grid) {
+RowEditBox::RowEditBox(QAbstractScrollArea* grid) : QLineEdit(grid), grid_(grid) {
   setObjectName("txtDebug");
   setAccessibleName("Text of the row");
   setValidator(new CodePageValidator(this));
@@ -41,12 +43,9 @@ RowEditBox::RowEditBox(QWidget* grid) : QLineEdit(grid) {
   });
   bindings_.Bind(txtDebug.FontName, [this](const std::string&) { ShowFont(); });
   bindings_.Bind(txtDebug.FontSize, [this](int) { ShowFont(); });
-  bindings_.Bind(txtDebug.Bounds, [this](const ControlBounds& bounds) {
-    const ControlBounds& outer = DebugWindow.Bounds;
-    setGeometry(
-        QRectF(bounds.Left - outer.Left, bounds.Top - outer.Top, bounds.Width, bounds.Height)
-            .toRect());
-  });
+  bindings_.Bind(txtDebug.Bounds, [this](const ControlBounds&) { Place(); });
+  connect(grid->horizontalScrollBar(), &QScrollBar::valueChanged, this, [this] { Place(); });
+  grid->viewport()->installEventFilter(this);
   bindings_.Bind(txtDebug.Visible, [this](bool visible) { Appear(visible); });
   connect(this, &QLineEdit::textChanged, this, [](const QString& text) {
     txtDebug.Text = Utf8ToCodePage(text.toStdString()).value_or("");
@@ -66,6 +65,11 @@ void RowEditBox::keyReleaseEvent(QKeyEvent* event) {
   }
 }
 
+bool RowEditBox::eventFilter(QObject* viewport, QEvent* event) {
+  if (event->type() == QEvent::Resize) Place();
+  return QLineEdit::eventFilter(viewport, event);
+}
+
 void RowEditBox::focusOutEvent(QFocusEvent* event) {
   QLineEdit::focusOutEvent(event);
   // Neither its own pop-up menu nor another program ends the edit.
@@ -79,6 +83,19 @@ void RowEditBox::ShowFont() {
   shown.setFamilies({QString::fromStdString(txtDebug.FontName)});
   shown.setPointSize(std::max(txtDebug.FontSize.Get(), 1));
   setFont(shown);
+}
+
+// Beside the scroll bar and the line numbers, as far as the row is in view.
+void RowEditBox::Place() {
+  const ControlBounds& bounds = txtDebug.Bounds;
+  const ControlBounds& outer = DebugWindow.Bounds;
+  QRect place =
+      QRectF(bounds.Left - outer.Left, bounds.Top - outer.Top, bounds.Width, bounds.Height)
+          .toRect();
+  const QRect cells = grid_->viewport()->geometry();
+  place.setLeft(std::max(place.left() - grid_->horizontalScrollBar()->value(), cells.left()));
+  place.setRight(std::min(place.right(), cells.right()));
+  setGeometry(place);
 }
 
 void RowEditBox::Appear(bool visible) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QAbstractScrollArea>
 #include <QLineEdit>
 
 #include "platform/qt/views/bindings.h"
@@ -10,17 +11,20 @@ namespace frmMain {
 // character that the code page lacks can't be typed.
 class RowEditBox : public QLineEdit {
  public:
-  explicit RowEditBox(QWidget* grid);
+  explicit RowEditBox(QAbstractScrollArea* grid);
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
   void keyReleaseEvent(QKeyEvent* event) override;
+  bool eventFilter(QObject* viewport, QEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
 
  private:
   void ShowFont();
+  void Place();
   void Appear(bool visible);
 
+  QAbstractScrollArea* grid_;
   Bindings bindings_;
   // The key that is down was pressed in this box.
   bool pressed_ = false;

@@ -14,6 +14,7 @@
 #include <QMimeData>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QSlider>
 #include <QTableView>
 #include <QTemporaryDir>
@@ -27,8 +28,8 @@
 
 #include "interpreter/machine.h"
 #include "mainwindow/control_surface.h"
-#include "mainwindow/program_start.h"
 #include "mainwindow/notifications.h"
+#include "mainwindow/program_start.h"
 #include "platform/host/settings_store.h"
 #include "settings/settings.h"
 #include "tests/golden.h"
@@ -453,7 +454,11 @@ TEST_F(WindowTest, ARowTakesPastedLinesAsOneAndIsFollowedByItsEdit) {
   window->showNormal();
   window->resize(500, 400);
   EXPECT_TRUE(QTest::qWaitFor([&] { return grid.width() < width; }));
-  EXPECT_LT(box.geometry().right(), grid.width());
+  auto& rows = The<QTableView>("DebugWindow");
+  rows.setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+  rows.horizontalScrollBar()->setValue(7);
+  EXPECT_EQ(rows.viewport()->geometry().right(), box.geometry().right());
+  EXPECT_EQ(rows.viewport()->x() + rows.columnViewportPosition(2), box.x());
   const QWidget& form = *window->centralWidget();
   for (const char* overlay : {"Slider", "ProgressBar"}) {
     EXPECT_TRUE(QTest::qWaitFor([&] {
@@ -488,6 +493,15 @@ TEST_F(WindowTest, ABreakPointStopsARunThatClosesWithTheWindow) {
   EXPECT_EQ("X 16.0  Z -20.0", The<QLabel>("ToolPosition").text());
 }
 
+TEST_F(WindowTest, EscDismissesTheNotificationBesideIt) {
+  Open();
+  frmMain::ShowInfoWindow(0, 30'000);
+  const auto isUp = [&] { return window->findChild<QDialog*>("frmInfo") != nullptr; };
+  EXPECT_TRUE(isUp());
+  Key(Qt::Key_Escape);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return !isUp(); }));
+}
+
 TEST_F(WindowTest, ADroppedFileIsOpened) {
   Open();
   QMimeData data;
@@ -506,15 +520,6 @@ TEST_F(WindowTest, ADroppedFileIsOpened) {
       EXPECT_EQ(copies, event->isAccepted());
       EXPECT_EQ(copies, event->dropAction() == Qt::CopyAction);
     }
-TEST_F(WindowTest, EscDismissesTheNotificationBesideIt) {
-  Open();
-  frmMain::ShowInfoWindow(0, 30'000);
-  const auto isUp = [&] { return window->findChild<QDialog*>("frmInfo") != nullptr; };
-  EXPECT_TRUE(isUp());
-  Key(Qt::Key_Escape);
-  EXPECT_TRUE(QTest::qWaitFor([&] { return !isUp(); }));
-}
-
   }
   QApplication::processEvents();
   EXPECT_EQ("a&b.cnc", The<QLabel>("FileName").text());
