@@ -105,6 +105,7 @@ void Window::MakeEditor() {
   editor_->setFrameShape(QFrame::StyledPanel);
   editor_->setTabChangesFocus(true);
   editor_->Keys = {TextEditor_KeyDown, TextEditor_KeyPress, TextEditor_KeyUp};
+  editor_->PasteRefused = TellRefusedPaste;
   SetTextEditor(editor_);
 }
 
@@ -222,11 +223,11 @@ void Window::dragEnterEvent(QDragEnterEvent* event) {
   }
 }
 
-void Window::dropEvent(QDropEvent* event) {
 void Window::dragMoveEvent(QDragMoveEvent* event) {
   AcceptCopy(*event);
 }
 
+void Window::dropEvent(QDropEvent* event) {
   const std::string file = DraggedFile(*event->mimeData()).toStdString();
   AcceptCopy(*event);
   // Whoever is dragged from waits until this has returned, but the save question may take long.

@@ -1,6 +1,8 @@
 #include "mainwindow/frm_main_row_edit.h"
 
+#include <QApplication>
 #include <QKeyEvent>
+#include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QValidator>
 #include <algorithm>
@@ -9,6 +11,7 @@
 #include "debugger/row_edit.h"
 #include "mainwindow/control_surface.h"
 #include "platform/code_page.h"
+#include "platform/host/desktop.h"
 #include "platform/qt/views/key_codes.h"
 
 namespace frmMain {
@@ -19,18 +22,39 @@ class CodePageValidator : public QValidator {
  public:
   using QValidator::QValidator;
   State validate(QString& text, int& /*place*/) const override {
+    refused_ = FindRefusedCharacter(text);
     // A row is one line: those of a pasted text are joined by blanks.
     text.replace("\r\n", " ").replace('\r', ' ').replace('\n', ' ');
-    return Utf8ToCodePage(text.toStdString()) ? Acceptable : Invalid;
+    return refused_ ? Invalid : Acceptable;
   }
+  // Of the text that was asked for last.
+  const std::optional<RefusedCharacter>& Refused() const { return refused_; }
+
+ private:
+  mutable std::optional<RefusedCharacter> refused_;
 };
 
 }  // namespace
 
+void TellRefusedPaste(const RefusedCharacter& refused) {
+  const QString code = QString::number(refused.character.toUcs4().constFirst(), 16).toUpper();
+  const QString text = QString(
+                           "The character \"%1\" (U+%2) in row %3 of the pasted text can't stand "
+                           "in a program. Nothing has been pasted.")
+                           .arg(refused.character, code.rightJustified(4, '0'))
+                           .arg(refused.row);
+  QMetaObject::invokeMethod(
+      qApp, [reason = text.toStdString()] { Desktop::ShowError(reason); }, Qt::QueuedConnection);
+}
+
 RowEditBox::RowEditBox(QAbstractScrollArea* grid) : QLineEdit(grid), grid_(grid) {
   setObjectName("txtDebug");
   setAccessibleName("Text of the row");
-  setValidator(new CodePageValidator(this));
+  auto* validator = new CodePageValidator(this);
+  setValidator(validator);
+  connect(this, &QLineEdit::inputRejected, this, [this, validator] {
+    if (!typing_ && validator->Refused()) TellRefusedPaste(*validator->Refused());
+  });
   // Always as a pair: the grid's colours are the user's own.
   QPalette colours = palette();
   colours.setColor(QPalette::Base, Qt::white);
@@ -55,6 +79,7 @@ RowEditBox::RowEditBox(QAbstractScrollArea* grid) : QLineEdit(grid), grid_(grid)
 // A key that went down elsewhere, such as the Enter of a message box, is none of this box.
 void RowEditBox::keyPressEvent(QKeyEvent* event) {
   pressed_ = true;
+  const QScopedValueRollback typing(typing_, !event->matches(QKeySequence::Paste));
   QLineEdit::keyPressEvent(event);
 }
 

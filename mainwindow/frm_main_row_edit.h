@@ -4,8 +4,12 @@
 #include <QLineEdit>
 
 #include "platform/qt/views/bindings.h"
+#include "platform/qt/views/document_text.h"
 
 namespace frmMain {
+
+// Tells the user, behind the event that is handled, which character kept a text from being pasted.
+void TellRefusedPaste(const RefusedCharacter& refused);
 
 // txtDebug on the screen. A child of the grid, so that it goes out of view with its row. A
 // character that the code page lacks can't be typed.
@@ -28,6 +32,8 @@ class RowEditBox : public QLineEdit {
   Bindings bindings_;
   // The key that is down was pressed in this box.
   bool pressed_ = false;
+  // What is refused now is typed, not pasted.
+  bool typing_ = false;
 };
 
 }  // namespace frmMain

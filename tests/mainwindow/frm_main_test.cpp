@@ -459,6 +459,19 @@ TEST_F(WindowTest, ARowTakesPastedLinesAsOneAndIsFollowedByItsEdit) {
   rows.horizontalScrollBar()->setValue(7);
   EXPECT_EQ(rows.viewport()->geometry().right(), box.geometry().right());
   EXPECT_EQ(rows.viewport()->x() + rows.columnViewportPosition(2), box.x());
+  QApplication::clipboard()->setText("G01\n\u2192");
+  QTest::keyClick(&box, Qt::Key_V, Qt::ControlModifier);
+  EXPECT_EQ("G01 X10 Z-5", box.text());
+  QTimer::singleShot(0, window.get(), [] {
+    auto* told = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    ASSERT_NE(nullptr, told);
+    EXPECT_EQ(
+        "The character \"\u2192\" (U+2192) in row 2 of the pasted text can't stand in a program. "
+        "Nothing has been pasted.",
+        told->text());
+    told->close();
+  });
+  QApplication::processEvents();
   const QWidget& form = *window->centralWidget();
   for (const char* overlay : {"Slider", "ProgressBar"}) {
     EXPECT_TRUE(QTest::qWaitFor([&] {

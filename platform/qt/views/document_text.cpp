@@ -34,6 +34,16 @@ std::string FromDocumentText(QString text) {
   return bytes;
 }
 
+std::optional<RefusedCharacter> FindRefusedCharacter(const QString& text) {
+  RefusedCharacter next;
+  for (const char32_t point : text.toUcs4()) {
+    next.character = QString::fromUcs4(&point, 1);
+    if (!Utf8ToCodePage(next.character.toUtf8().toStdString())) return next;
+    if (point == U'\n') ++next.row;
+  }
+  return std::nullopt;
+}
+
 QTextCharFormat ToCharFormat(const TextFormat& format) {
   QTextCharFormat result;
   result.setForeground(ToQColor(format.color));

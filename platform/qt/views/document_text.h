@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <QTextCharFormat>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -14,6 +15,14 @@ QString ToDocumentText(std::string_view bytes);
 
 // A character that the code page lacks reads as "?", so that offsets stay true.
 std::string FromDocumentText(QString text);
+
+// A character that the code page lacks, and its row, counted from 1.
+struct RefusedCharacter {
+  QString character;
+  int row = 1;
+};
+// The first one of a text; empty if there is none.
+std::optional<RefusedCharacter> FindRefusedCharacter(const QString& text);
 
 QTextCharFormat ToCharFormat(const TextFormat& format);
 TextFormat FromCharFormat(const QTextCharFormat& format);

@@ -13,7 +13,6 @@
 
 #include "platform/code_page.h"
 #include "platform/qt/views/colours.h"
-#include "platform/qt/views/document_text.h"
 #include "platform/qt/views/key_codes.h"
 #include "platform/text.h"
 #include "platform/virtual_keys.h"
@@ -167,9 +166,9 @@ void QtRichText::keyPressEvent(QKeyEvent* event) {
   std::int16_t shift = ShiftState(*event);
   pressedKeys_[event->nativeScanCode()] = keyCode;
   const bool isKnown = keyCode != 0;
+  const QScopedValueRollback formatted(formattedSelection_, false);
   if (event->matches(QKeySequence::Undo)) return Undo();
   if (event->matches(QKeySequence::Redo)) return Redo();
-  const QScopedValueRollback formatted(formattedSelection_, false);
   if (Keys.KeyDown) Keys.KeyDown(keyCode, shift);
   if (isKnown && keyCode == 0) return;
   const Qt::KeyboardModifiers modifiers = event->modifiers();
@@ -185,6 +184,7 @@ void QtRichText::keyPressEvent(QKeyEvent* event) {
     QTextEdit::keyPressEvent(event);
   }
 }
+
 void QtRichText::contextMenuEvent(QContextMenuEvent* event) {
   QMenu* menu = createStandardContextMenu(event->pos());
   menu->setAttribute(Qt::WA_DeleteOnClose);
@@ -196,7 +196,6 @@ void QtRichText::contextMenuEvent(QContextMenuEvent* event) {
   }
   menu->popup(event->globalPos());
 }
-
 
 void QtRichText::keyReleaseEvent(QKeyEvent* event) {
   QTextEdit::keyReleaseEvent(event);
@@ -224,8 +223,8 @@ void QtRichText::insertFromMimeData(const QMimeData* source) {
   if (const auto bytes = Utf8ToCodePage(text.toUtf8().toStdString())) {
     InsertText(WithCrLf(*bytes));
     ensureCursorVisible();
-  } else {
-    QApplication::beep();
+  } else if (const auto refused = FindRefusedCharacter(text); refused && PasteRefused) {
+    PasteRefused(*refused);
   }
 }
 
@@ -393,6 +392,7 @@ void QtRichText::SetSelFormat(Value TextFormat::*member, const Value& value) {
   selection.endEditBlock();
   formattedSelection_ = true;
 }
+
 void QtRichText::Undo() {
   Travel(&QTextDocument::isUndoAvailable, &QTextDocument::undo);
 }
@@ -422,7 +422,6 @@ void QtRichText::Travel(bool (QTextDocument::*isAvailable)() const, HistoryStep 
   SetSelStart(std::clamp(OffsetOf(cursor.position()), earliest, latest));
   ensureCursorVisible();
 }
-
 
 void QtRichText::InsertText(std::string_view bytes) {
   // The editor's own cursor moves along.

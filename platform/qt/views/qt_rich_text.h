@@ -6,12 +6,13 @@
 #include <cstddef>
 #include <cstdint>
 #include <functional>
-#include <string>
 #include <map>
+#include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
 
+#include "platform/qt/views/document_text.h"
 #include "platform/rich_text.h"
 
 // Handlers of an editor's keys; any may be empty. Codes are those of VirtualKey and ShiftState.
@@ -34,6 +35,8 @@ class QtRichText : public QTextEdit, public RichText {
   explicit QtRichText(QWidget* parent = nullptr);
 
   EditorKeys Keys;
+  // Called, if set, when a text isn't pasted or dropped because of a character in it.
+  std::function<void(const RefusedCharacter&)> PasteRefused;
 
   const std::string& Text() const override;
   void SetText(std::string text) override;
@@ -60,15 +63,15 @@ class QtRichText : public QTextEdit, public RichText {
   int SelFontSize() const override { return selFormat_.fontSize; }
   void SetSelFontSize(int points) override { SetSelFormat(&TextFormat::fontSize, points); }
 
- protected:
-  void keyPressEvent(QKeyEvent* event) override;
-  void keyReleaseEvent(QKeyEvent* event) override;
   // To the last text that differs, colours along with it; the caret goes where the text did.
   void Undo();
   void Redo();
 
-  void inputMethodEvent(QInputMethodEvent* event) override;
+ protected:
   void contextMenuEvent(QContextMenuEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void keyReleaseEvent(QKeyEvent* event) override;
+  void inputMethodEvent(QInputMethodEvent* event) override;
   bool canInsertFromMimeData(const QMimeData* source) const override;
   void insertFromMimeData(const QMimeData* source) override;
   QMimeData* createMimeDataFromSelection() const override;
@@ -94,12 +97,12 @@ class QtRichText : public QTextEdit, public RichText {
   template <class Value>
   void SetSelFormat(Value TextFormat::*member, const Value& value);
 
-  void InsertText(std::string_view bytes);
-  // What the user typed, by way of KeyPress; refused with a beep if it isn't in the code page.
-  void Type(const QString& characters);
   using HistoryStep = void (QTextDocument::*)(QTextCursor*);
   void Travel(bool (QTextDocument::*isAvailable)() const, HistoryStep step);
 
+  void InsertText(std::string_view bytes);
+  // What the user typed, by way of KeyPress; refused with a beep if it isn't in the code page.
+  void Type(const QString& characters);
   void TypeByte(std::int16_t character);
 
   // Rebuilt from the document when somebody asks for it. Whoever watches changes asks at each, so
@@ -115,7 +118,7 @@ class QtRichText : public QTextEdit, public RichText {
   bool formattedSelection_ = false;
   // Position behind what was typed last, or -1.
   int typedEnd_ = -1;
-};
   // By the scan code of each key that is down, the virtual key that it was pressed as. It comes up
   // as another one when AltGr has been let go first.
   std::map<std::uint32_t, std::int16_t> pressedKeys_;
+};

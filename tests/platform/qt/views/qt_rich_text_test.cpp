@@ -157,8 +157,17 @@ TEST_F(QtEditorTest, CharactersBeyondTheCodePageAreRefused) {
   EXPECT_EQ("\x80 \xE4\x96\xA0", editor.Text());
   QTest::sendKeyEvent(QTest::Click, &editor, Qt::Key_unknown, QString::fromUtf8("\u0416"),
                       Qt::NoModifier);
-  Paste(QString::fromUtf8("G01\u2192"));
+  std::string refused;
+  editor.PasteRefused = [&](const RefusedCharacter& what) {
+    refused += what.character.toStdString() + std::to_string(what.row) + ' ';
+  };
+  Paste(QString::fromUtf8("G00\nG01\u2192"));
   Paste(QString::fromUtf8("\U0001F600"));
+  EXPECT_EQ(
+      "\u2192"
+      "2 \U0001F600"
+      "1 ",
+      refused);
   QInputMethodEvent composed;
   composed.setCommitString(QString::fromUtf8("\u0416"));
   QApplication::sendEvent(&editor, &composed);
