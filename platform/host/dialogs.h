@@ -14,15 +14,17 @@ struct CommonDialog {
   // Captions and patterns in turn, divided by "|".
   std::string Filter;
   int Flags = 0;
-  // The folder in which the first dialog opens.
+  // The folder in which a dialog stands that nothing else has a place for.
   std::string InitDir;
-  // The full path that was chosen.
+  // The full path that was chosen. ShowSave begins with it: it stands in its folder, or in InitDir
+  // without one, with its name filled in.
   std::string FileName;
   // With it a Cancel counts as an error: the routine returns false.
   bool CancelError = false;
 
   // Both show a file dialog modally and return true when FileName may be used: it is the file
-  // chosen, or unchanged when a Cancel is no error.
+  // chosen, or unchanged when a Cancel is no error. Where a save would fail, the dialog says why
+  // and stays open.
   bool ShowOpen();
   bool ShowSave();
 

@@ -29,10 +29,6 @@ struct Replacement {
   }
 };
 
-std::string FolderOf(const fs::path& path) {
-  return path.has_parent_path() ? path.parent_path().string() : ".";
-}
-
 bool OpenTemporary(Replacement& replacement, mode_t mode) {
   if (access("/proc/self/fd", X_OK) == 0 &&
       replacement.file.Open(FolderOf(replacement.path), O_WRONLY | O_TMPFILE, mode)) {

@@ -1,6 +1,5 @@
 #include "platform/posix/save_names.h"
 
-#include <string>
 #include <system_error>
 
 namespace {
@@ -26,6 +25,10 @@ fs::path FollowLinks(fs::path path) {
     path = path.parent_path() / target;
   }
   return {};
+}
+
+std::string FolderOf(const fs::path& path) {
+  return path.has_parent_path() ? path.parent_path().string() : ".";
 }
 
 fs::path TemporaryName(const fs::path& path) {

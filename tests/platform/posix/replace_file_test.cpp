@@ -16,6 +16,7 @@
 
 #include "platform/host/files.h"
 #include "platform/posix/error_words.h"
+#include "platform/posix/save_check.h"
 #include "tests/platform/qt/temporary_folder.h"
 
 namespace {
@@ -45,6 +46,10 @@ extern "C" {
 int access(const char* path, int mode) noexcept {
   if (!knowsUnnamedFiles && std::string_view(path) == "/proc/self/fd") return -1;
   return static_cast<int>(Call(SYS_access, path, mode));
+}
+
+int faccessat(int folder, const char* path, int mode, int /*flags*/) noexcept {
+  return static_cast<int>(Call(SYS_faccessat, folder, path, mode));
 }
 
 ssize_t pwrite(int file, const void* bytes, size_t size, off_t offset) {
@@ -237,6 +242,31 @@ TEST_P(ReplaceFileTest, RefusesWhatIsNoOrdinaryFile) {
   }
 }
 
+TEST_P(ReplaceFileTest, ForetellsWhatWouldFail) {
+  const std::string path = Prepare();
+  EXPECT_EQ("", SaveTrouble(path));
+  fs::create_symlink("/dev/null", Path("device"));
+  const std::string longName(300, 'x');
+  const std::pair<std::string, std::string> kCases[] = {
+      {".", "/.\" is a folder. Type another name."},
+      {"device", "can't be written: it is no ordinary file."},
+      {"gone/part.cnc", "gone\" doesn't exist."},
+      {"part.cnc/part.cnc", "part.cnc\" doesn't exist."},
+      {longName, "can't be written: File name too long."}};
+  for (const auto& [name, trouble] : kCases) {
+    EXPECT_THAT(SaveTrouble(Path(name)), testing::EndsWith(trouble));
+  }
+  for (const int n : {1, 2}) {
+    watch = [n, asked = 0](long) mutable { return ++asked == n ? EACCES : 0; };
+    const std::string trouble = SaveTrouble(path);
+    EXPECT_EQ(n == 1 || exists, !trouble.empty());
+    const std::string name = n == 1 ? "The folder \"" + folder.string() : "The file \"" + path;
+    if (!trouble.empty()) {
+      EXPECT_EQ(name + "\" can't be written: Permission denied.", trouble);
+    }
+  }
+}
+
 // Calls of a save in all its processes.
 class SharedCount {
  public:
@@ -270,9 +300,9 @@ TEST_P(ReplaceFileTest, FailsAsAWholeWhenAnyCallFails) {
         if (!saved) ++failures;
         if (*calls < n) break;
       }
-      // Write, cut to length, flush, give a name, rename; and over an old file that stays write,
-      // cut to length, flush, drop the copy.
-      const int expected = 5 + (names == 2 ? 4 : 0) - (unnamed ? 0 : 1);
+      // Write, cut to length, flush, give a name, rename; ask for leave to change an old file; and
+      // over one that stays write, cut to length, flush, drop the copy.
+      const int expected = 5 + (exists ? 1 : 0) + (names == 2 ? 4 : 0) - (unnamed ? 0 : 1);
       EXPECT_TRUE(error == EINTR || failures == expected) << failures;
     }
   }
@@ -288,6 +318,7 @@ TEST_P(ReplaceFileTest, KeepsTheOldFileOnAFullOrReadOnlyDisk) {
     for (const std::size_t freePages : {0U, 1U, 5U, 14U}) {
       const std::string path = Prepare();
       Put("filler", std::string((16 - (exists ? 2 : 0) - freePages) * kPage, 'f'));
+      EXPECT_THAT(SaveTrouble(path), HasSubstr("has less than 64 kB of room left on its disk."));
       const bool saved = ReplaceFile(path, kReplacement.substr(0, size), reason);
       const std::size_t needed = std::max(size, names == 2 ? kOld.size() : 0);
       EXPECT_EQ(needed <= freePages * kPage, saved) << size << " on " << freePages;
@@ -298,7 +329,9 @@ TEST_P(ReplaceFileTest, KeepsTheOldFileOnAFullOrReadOnlyDisk) {
   const std::string path = Prepare();
   EXPECT_TRUE(MountSmallDisk(MS_REMOUNT | MS_RDONLY));
   EXPECT_FALSE(ReplaceFile(path, kReplacement, reason));
-  EXPECT_THAT(reason, HasSubstr(ErrorWords(EROFS)));
+  for (const std::string& why : {reason, SaveTrouble(path)}) {
+    EXPECT_THAT(why, HasSubstr("can't be written: Read-only file system."));
+  }
   ExpectWhole(false);
   umount2(folder.c_str(), MNT_DETACH);
 }

@@ -1,14 +1,20 @@
 #include "platform/host/dialogs.h"
 
+#include <QAbstractButton>
 #include <QApplication>
+#include <QDialogButtonBox>
+#include <QDir>
 #include <QFile>
 #include <QFileDialog>
 #include <QLineEdit>
+#include <QListView>
 #include <QMessageBox>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+#include <functional>
 #include <gtest/gtest.h>
+#include <vector>
 
 namespace {
 
@@ -63,6 +69,79 @@ TEST_F(DialogsTest, SavingOverAFileAsksFirst) {
   });
   EXPECT_FALSE(com.ShowSave());
   EXPECT_TRUE(asked);
+}
+
+using Step = std::function<void(QWidget* top)>;
+
+// Does what the user does, step by step, each as soon as another dialog than before is on top.
+void InDialogs(const std::vector<Step>& steps, std::size_t next = 0, QWidget* before = nullptr) {
+  QTimer::singleShot(0, qApp, [=] {
+    QWidget* top = QApplication::activeModalWidget();
+    const bool isNew = top != nullptr && top != before;
+    if (!isNew || next + 1 < steps.size())
+      InDialogs(steps, isNew ? next + 1 : next, isNew ? top : before);
+    if (isNew) steps[next](top);
+  });
+}
+
+TEST_F(DialogsTest, SaveStandsInTheFolderOfTheFileAndRefusesEarlyWhatWouldFail) {
+  QDir(folder.path()).mkpath("deep/sub");
+  QFile::copy(PathOf("part.cnc"), PathOf("deep/part.cnc"));
+  com.FileName = PathOf("deep/part.cnc").toStdString();
+  const auto edit = [](QWidget* top) { return top->findChild<QLineEdit*>("fileNameEdit"); };
+  const auto enter = [=](const QString& name) {
+    return [=](QWidget* top) {
+      top->activateWindow();
+      EXPECT_TRUE(QTest::qWaitForWindowActive(top));
+      edit(top)->setFocus();
+      edit(top)->selectAll();
+      QTest::keyClicks(edit(top), name);
+      EXPECT_TRUE(top->findChild<QDialogButtonBox*>()->buttons()[0]->text().contains("Save"));
+      QTest::keyClick(edit(top), Qt::Key_Return);
+    };
+  };
+  const auto hear = [](const QString& reason) {
+    return [=](QWidget* top) {
+      auto* box = qobject_cast<QMessageBox*>(top);
+      ASSERT_NE(nullptr, box);
+      EXPECT_TRUE(box->text().contains(reason)) << box->text().toStdString();
+      QTest::keyClick(box, Qt::Key_Return);
+    };
+  };
+  const auto look = [=, this](QWidget* top) {
+    auto* dialog = qobject_cast<QFileDialog*>(top);
+    EXPECT_EQ(PathOf("deep"), dialog->directory().path());
+    EXPECT_EQ("part.cnc", edit(top)->text());
+    const auto* places = top->findChild<QListView*>("sidebar");
+    EXPECT_EQ(QUrl::fromLocalFile(QDir::homePath()), dialog->sidebarUrls().constLast());
+    EXPECT_EQ("samples", dialog->sidebarUrls().constFirst().fileName());
+    EXPECT_GE(places->width(), places->sizeHintForColumn(0));
+    enter("sub")(top);
+  };
+  const auto goIn = [=, this](QWidget* top) {
+    EXPECT_EQ("no/x.cnc", edit(top)->text()) << "what was typed stays";
+    enter("sub/")(top);
+    EXPECT_EQ(PathOf("deep/sub"), qobject_cast<QFileDialog*>(top)->directory().path());
+    enter("a\\B.cnc")(top);
+  };
+  InDialogs({look, hear("deep/sub\" is a folder."), enter("no/x.cnc"),
+             hear("deep/no\" doesn't exist."), goIn});
+  EXPECT_TRUE(com.ShowSave());
+  EXPECT_EQ(PathOf("deep/sub/a\\B.cnc").toStdString(), com.FileName);
+  // A program without a file stands in InitDir again, one whose folder is gone as well.
+  for (const QString& name : {QString(), PathOf("gone/part.cnc")}) {
+    com.FileName = name.toStdString();
+    InDialogs({[this](QWidget* top) {
+      EXPECT_EQ(folder.path(), qobject_cast<QFileDialog*>(top)->directory().path());
+      QTest::keyClick(top, Qt::Key_Escape);
+    }});
+    EXPECT_FALSE(com.ShowSave());
+  }
+  InDialogs({[this](QWidget* top) {
+    EXPECT_EQ(PathOf("deep/sub"), qobject_cast<QFileDialog*>(top)->directory().path());
+    QTest::keyClick(top, Qt::Key_Escape);
+  }});
+  EXPECT_FALSE(com.ShowOpen());
 }
 
 }  // namespace
