@@ -1,7 +1,6 @@
 #include "mainwindow/listing.h"
 
 #include <QAbstractTextDocumentLayout>
-#include <QFile>
 #include <QPainter>
 #include <QTextBlock>
 #include <QTextCursor>
@@ -47,19 +46,10 @@ QString ParagraphsOf(const FormattedText& program, std::size_t run) {
   return text.remove('\r').replace('\n', QChar::ParagraphSeparator);
 }
 
-// Qt doesn't tell when the disk was full: such a file has no end.
-bool IsComplete(const QPrinter& printer) {
-  constexpr int kEndRoom = 16;
-  if (printer.outputFileName().isEmpty()) return true;
-  QFile file(printer.outputFileName());
-  return file.open(QIODevice::ReadOnly) && file.seek(std::max<qint64>(file.size() - kEndRoom, 0)) &&
-         file.readAll().contains("%%EOF");
-}
-
 // The program laid out for one printer, in its pixels.
 class Pages {
  public:
-  Pages(const Listing& listing, QPrinter& printer) : listing_(listing), printer_(printer) {
+  Pages(const Listing& listing, QPagedPaintDevice& printer) : listing_(listing), printer_(printer) {
     const QFontMetricsF metrics(listing.font, &printer);
     ascent_ = metrics.ascent();
     top_ = std::ceil(metrics.lineSpacing() * kHeadHeight);
@@ -141,7 +131,7 @@ class Pages {
   }
 
   const Listing& listing_;
-  QPrinter& printer_;
+  QPagedPaintDevice& printer_;
   QTextDocument document_;
   double ascent_ = 0;
   // Of the body of a page.
@@ -152,7 +142,7 @@ class Pages {
 
 }  // namespace
 
-bool PrintListing(const Listing& listing, QPrinter& printer) {
+bool PrintListing(const Listing& listing, QPagedPaintDevice& printer) {
   QPainter painter;
   if (!painter.begin(&printer)) return false;
   Pages pages(listing, printer);
@@ -164,5 +154,5 @@ bool PrintListing(const Listing& listing, QPrinter& printer) {
     pages.Draw(painter, page);
     isFirst = false;
   }
-  return painter.end() && IsComplete(printer);
+  return painter.end();
 }

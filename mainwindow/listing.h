@@ -1,7 +1,7 @@
 #pragma once
 
 #include <QFont>
-#include <QPrinter>
+#include <QPagedPaintDevice>
 #include <QString>
 
 #include "platform/rich_text.h"
@@ -18,4 +18,4 @@ struct Listing {
 
 // Draws the pages that the printer asks for, with numbered lines; a long line goes on below,
 // indented. Colours too light for paper are darkened. False when the printer can't be written to.
-bool PrintListing(const Listing& listing, QPrinter& printer);
+bool PrintListing(const Listing& listing, QPagedPaintDevice& printer);

@@ -1,8 +1,9 @@
 #include "mainwindow/print_listing.h"
 
+#include <QBuffer>
+#include <QPdfWriter>
 #include <QPrintDialog>
 #include <QPrinter>
-#include <QTemporaryDir>
 
 #include "mainwindow/control_surface.h"
 #include "mainwindow/listing.h"
@@ -24,21 +25,17 @@ Listing EditorListing() {
   return {QString::fromStdString(StatusBar.Panels("FileName").Text), TextEditor().TextRTF(), font};
 }
 
-// Prints a file as a whole or leaves the old one.
-bool PrintToFile(const Listing& listing, QPrinter& printer, const std::string& file) {
-  const QTemporaryDir folder;
-  const QString fresh = folder.filePath("listing.pdf");
-  printer.setOutputFileName(fresh);
-  if (!PrintListing(listing, printer)) return false;
-  std::string reason;
-  const auto bytes = ReadFile(fresh.toStdString(), reason);
-  return bytes && ReplaceFile(file, *bytes, reason);
-}
-
-std::string Failure(const std::string& file) {
-  if (file.empty()) return "The printer doesn't take the program. Look after it, and print again.";
-  return "The program can't be printed to \"" + file +
-         "\". Choose another folder, or make room on the disk.";
+// A PDF file as a whole, or the old one stays. Made in memory: no other disk can be in the way.
+bool PrintToFile(const Listing& listing, const QPrinter& printer, std::string& reason) {
+  QBuffer pages;
+  pages.open(QIODevice::WriteOnly);
+  QPdfWriter writer(&pages);
+  writer.setResolution(printer.resolution());
+  writer.setPageLayout(printer.pageLayout());
+  writer.setPageRanges(printer.pageRanges());
+  writer.setTitle(printer.docName());
+  PrintListing(listing, writer);
+  return ReplaceFile(printer.outputFileName().toStdString(), pages.data().toStdString(), reason);
 }
 
 }  // namespace
@@ -51,10 +48,10 @@ void mnuFilePrint_Click() {
   printer.setPageMargins({margin, margin, margin, margin}, QPageLayout::Millimeter);
   QPrintDialog dialog(&printer, DialogOwner());
   if (dialog.exec() != QDialog::Accepted) return;
-  const std::string file = printer.outputFileName().toStdString();
-  const bool printed =
-      file.empty() ? PrintListing(listing, printer) : PrintToFile(listing, printer, file);
-  if (!printed) Desktop::ShowError(Failure(file));
+  std::string reason = "The printer doesn't take the program. Look after it, and print again.";
+  const bool printed = printer.outputFileName().isEmpty() ? PrintListing(listing, printer)
+                                                          : PrintToFile(listing, printer, reason);
+  if (!printed) Desktop::ShowError(reason);
 }
 
 }  // namespace frmMain

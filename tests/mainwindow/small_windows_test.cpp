@@ -1,5 +1,12 @@
 #include <QApplication>
+#include <QComboBox>
+#include <QFile>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPrintDialog>
+#include <QPrinter>
 #include <QRegularExpression>
+#include <QTemporaryDir>
 #include <QTemporaryFile>
 #include <QTest>
 #include <gtest/gtest.h>
@@ -11,6 +18,7 @@
 #include "mainwindow/frm_splash.h"
 #include "mainwindow/listing.h"
 #include "mainwindow/notifications.h"
+#include "mainwindow/print_listing.h"
 #include "mainwindow/program_start.h"
 #include "platform/host/desktop.h"
 #include "tests/golden.h"
@@ -177,6 +185,37 @@ TEST(SmallWindowsTest, LongLinesGoOnAndOnlyThePagesAskedForAreMade) {
                             {"G00\r\nX1\r\n", {{0, {Rgb(1, 2, 3), false, "", 0}}, {6, light}}},
                             {"Courier", 10}},
                            0, 0)));
+}
+
+// Nothing else is in the way but the file itself.
+TEST(SmallWindowsTest, PrintsToAFileOrNamesTheFileThatCannotBeWritten) {
+  const QTemporaryDir folder;
+  qputenv("TMPDIR", "/nowhere");
+  QString path = folder.filePath("part.pdf");
+  std::string told;
+  QTimer user;
+  user.callOnTimeout([&] {
+    QWidget* top = QApplication::activeModalWidget();
+    if (auto* box = qobject_cast<QMessageBox*>(top)) {
+      told = box->text().toStdString();
+      box->accept();
+    } else if (auto* dialog = qobject_cast<QPrintDialog*>(top)) {
+      // The last of the printers is none.
+      auto* printers = dialog->findChild<QComboBox*>("printers");
+      printers->setCurrentIndex(printers->count() - 1);
+      dialog->findChild<QLineEdit*>("filename")->setText(path);
+      dialog->accept();
+    }
+  });
+  user.start(0);
+  frmMain::mnuFilePrint_Click();
+  EXPECT_EQ("", told);
+  QFile file(path);
+  EXPECT_TRUE(file.open(QIODevice::ReadOnly) && file.readAll().contains("%%EOF"));
+  path = "/proc/part.pdf";
+  frmMain::mnuFilePrint_Click();
+  EXPECT_EQ("The file \"/proc/part.pdf\" can't be written: No such file or directory.", told);
+  qunsetenv("TMPDIR");
 }
 
 }  // namespace
