@@ -3,7 +3,6 @@
 #include <QCoreApplication>
 #include <cerrno>
 #include <cstdio>
-#include <cstring>
 #include <filesystem>
 #include <new>
 #include <string>
@@ -31,6 +30,7 @@
 #include "platform/host/files.h"
 #include "platform/host/settings_store.h"
 #include "platform/numbers.h"
+#include "platform/posix/error_words.h"
 #include "platform/text.h"
 #include "platform/windowless/windowless.h"
 #include "settings/settings.h"
@@ -109,7 +109,7 @@ bool Print(std::string_view bytes) {
       std::fflush(stdout) == 0) {
     return true;
   }
-  SayTrouble(std::string("Standard output can't be written: ") + std::strerror(errno) + '.');
+  SayTrouble("Standard output can't be written: " + ErrorWords(errno) + '.');
   return false;
 }
 
