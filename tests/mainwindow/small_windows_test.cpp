@@ -9,7 +9,9 @@
 #include <QTemporaryDir>
 #include <QTemporaryFile>
 #include <QTest>
+#include <csignal>
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 
 #include "editor/documents.h"
 #include "interpreter/decoder.h"
@@ -169,16 +171,24 @@ std::string Drawn(const QByteArray& file) {
 }
 
 TEST(SmallWindowsTest, LongLinesGoOnAndOnlyThePagesAskedForAreMade) {
-  const auto print = [](const Listing& listing, int from, int to) {
+  const auto print = [](const Listing& listing, int from, int to, bool hasRoom = true) {
     QTemporaryFile file("XXXXXX.pdf");
     QPrinter printer(QPrinter::HighResolution);
     printer.setOutputFileName(file.open() ? file.fileName() : "");
     printer.setFromTo(from, to);
-    EXPECT_TRUE(PrintListing(listing, printer));
+    EXPECT_EQ(hasRoom, PrintListing(listing, printer));
     return file.readAll();
   };
   const QByteArray file = print({"A", {std::string(20'000, 'X'), {{}}}, {"Courier", 10}}, 2, 3);
   EXPECT_EQ(2, file.count("/Type /Page\n"));
+  // A disk that is full behind the first pages.
+  signal(SIGXFSZ, SIG_IGN);
+  rlimit free{};
+  getrlimit(RLIMIT_FSIZE, &free);
+  const rlimit full{1'000, free.rlim_max};
+  setrlimit(RLIMIT_FSIZE, &full);
+  print({"A", {std::string(20'000, 'X'), {{}}}, {"Courier", 10}}, 0, 0, false);
+  setrlimit(RLIMIT_FSIZE, &free);
   const TextFormat light{Rgb(255, 255, 200), true, "", 20};
   ExpectGolden("listing",
                Drawn(print({"Title",
