@@ -15,6 +15,7 @@
 
 #include "editor/documents.h"
 #include "interpreter/decoder.h"
+#include "mainwindow/control_surface.h"
 #include "mainwindow/fading_window.h"
 #include "mainwindow/frm_help.h"
 #include "mainwindow/frm_splash.h"
@@ -23,6 +24,7 @@
 #include "mainwindow/print_listing.h"
 #include "mainwindow/program_start.h"
 #include "platform/host/desktop.h"
+#include "settings/settings.h"
 #include "tests/golden.h"
 
 namespace {
@@ -170,31 +172,56 @@ std::string Drawn(const QByteArray& file) {
   return drawn.toStdString() + '\n';
 }
 
+TEST(SmallWindowsTest, PrintsToTheFileOfItsDialogOrLeavesItAndTellsWhy) {
+  const QTemporaryDir folder;
+  const QString path = folder.filePath("a.pdf");
+  frmMain::ResetToProgramStart();
+  GlobalVariables::Settings.EditorFontName = "Courier";
+  GlobalVariables::Settings.EditorFontSize = 10;
+  frmMain::StatusBar.Panels("FileName").Text = "Title";
+  const TextFormat light{Rgb(255, 255, 200), true, "", 20};
+  frmMain::TextEditor().SetTextRTF({"G00\r\nX1\r\n", {{0, {Rgb(1, 2, 3)}}, {6, light}}});
+  rlimit free{};
+  getrlimit(RLIMIT_FSIZE, &free);
+  signal(SIGXFSZ, SIG_IGN);
+  for (const bool hasRoom : {true, false}) {
+    const rlimit full{1'000, free.rlim_max};
+    QString told;
+    QTimer user;
+    user.callOnTimeout([&] {
+      if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+        told = box->text();
+        box->accept();
+      }
+      auto* dialog = qobject_cast<QPrintDialog*>(QApplication::activeModalWidget());
+      if (dialog == nullptr) return;
+      dialog->findChild<QLineEdit*>("filename")->setText(path);
+      if (!hasRoom) setrlimit(RLIMIT_FSIZE, &full);
+      dialog->accept();
+    });
+    user.start(0);
+    frmMain::mnuFilePrint_Click();
+    setrlimit(RLIMIT_FSIZE, &free);
+    EXPECT_EQ(hasRoom ? ""
+                      : "The program can't be printed to \"" + path +
+                            "\". Choose another folder, or make room on the disk.",
+              told);
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    ExpectGolden("listing", Drawn(file.readAll()));
+  }
+}
+
 TEST(SmallWindowsTest, LongLinesGoOnAndOnlyThePagesAskedForAreMade) {
-  const auto print = [](const Listing& listing, int from, int to, bool hasRoom = true) {
+  const auto pagesOf = [](std::size_t length, int from, int to) {
     QTemporaryFile file("XXXXXX.pdf");
     QPrinter printer(QPrinter::HighResolution);
     printer.setOutputFileName(file.open() ? file.fileName() : "");
     printer.setFromTo(from, to);
-    EXPECT_EQ(hasRoom, PrintListing(listing, printer));
-    return file.readAll();
+    EXPECT_TRUE(PrintListing({"A", {std::string(length, 'X'), {{}}}, {"Courier", 10}}, printer));
+    return file.readAll().count("/Type /Page\n");
   };
-  const QByteArray file = print({"A", {std::string(20'000, 'X'), {{}}}, {"Courier", 10}}, 2, 3);
-  EXPECT_EQ(2, file.count("/Type /Page\n"));
-  // A disk that is full behind the first pages.
-  signal(SIGXFSZ, SIG_IGN);
-  rlimit free{};
-  getrlimit(RLIMIT_FSIZE, &free);
-  const rlimit full{1'000, free.rlim_max};
-  setrlimit(RLIMIT_FSIZE, &full);
-  print({"A", {std::string(20'000, 'X'), {{}}}, {"Courier", 10}}, 0, 0, false);
-  setrlimit(RLIMIT_FSIZE, &free);
-  const TextFormat light{Rgb(255, 255, 200), true, "", 20};
-  ExpectGolden("listing",
-               Drawn(print({"Title",
-                            {"G00\r\nX1\r\n", {{0, {Rgb(1, 2, 3), false, "", 0}}, {6, light}}},
-                            {"Courier", 10}},
-                           0, 0)));
+  EXPECT_EQ(2, pagesOf(20'000, 2, 3));
 }
 
 // Nothing else is in the way but the file itself.

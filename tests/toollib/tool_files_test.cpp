@@ -56,8 +56,10 @@ TEST_F(ToolFilesTest, ListIsWrittenAsItWasReadOrStaysAsItWas) {
   for (const char* name : {"\xE5\x88\x80.bmp", "a\r\n3=b.bmp"}) {
     ToolFiles.at(7) = name;
     EXPECT_FALSE(frmToolSelect::WriteToolList(reason));
-    EXPECT_THAT(reason,
-                testing::HasSubstr("of Tool 7 has a character that the tool list can't hold. "));
+    EXPECT_EQ("The name \"" + ToolFiles.at(7) +
+                  "\" of Tool 7 has a character that the tool list can't hold. Give the bitmap "
+                  "another name.",
+              reason);
   }
   EXPECT_EQ(list, Fakes::FileBytes("/app/Tools/ToolList.ini"));
 }
