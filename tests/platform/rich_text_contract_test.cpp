@@ -55,8 +55,8 @@ TEST_P(RichTextContract, TheWatcherHearsOfEachAssignmentOnce) {
   control.SetText("G01");
   control.SetText("G01");
   Select(control, 0, 3);
-  control.SetSelText("G01");
-  Select(control, 1, 2);
+  control.SetSelText("G\r\n01");
+  Select(control, 3, 1);
   control.SetSelColor(kRed);
   EXPECT_EQ(3, heard) << "a format is no change of the text";
   const FormattedText formatted = control.TextRTF();
