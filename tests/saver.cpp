@@ -53,9 +53,9 @@ int main(int argc, char** argv) {
   int status = 0;
   for (int i = 1; count == 0 || i <= count; ++i) {
     std::string reason;
-    access("save-begins", F_OK);
+    static_cast<void>(access("save-begins", F_OK));
     const bool saved = Save(argv[1], folder, i % 10'000, reason);
-    access("save-ends", F_OK);
+    static_cast<void>(access("save-ends", F_OK));
     if (!saved) {
       status = 1;
       std::fprintf(stderr, "%s\n", reason.c_str());
