@@ -5,9 +5,9 @@
 #include <cstdint>
 
 // A small window without a frame that fades in as it appears, and out at a click or Esc; where the
-// platform has no window opacity, it comes and goes at once. Its owner is the main window, once that
-// is on the screen. It deletes itself when it has faded out, and behind exec when that returns for
-// another reason, such as the end of the program.
+// platform has no window opacity, it comes and goes at once. Its owner is the main window, once
+// that is on the screen. It deletes itself when it has faded out, and behind exec when that returns
+// for another reason, such as the end of the program.
 class FadingWindow : public QDialog {
  public:
   // The opacity that the next step applies, 0 to 255.
