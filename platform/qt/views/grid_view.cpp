@@ -117,12 +117,6 @@ class LineNumbers : public QHeaderView {
     const int row = logicalIndexAt(event->position().toPoint());
     if (event->button() == Qt::LeftButton && row >= 0) emit sectionPressed(row);
   }
-  void mouseDoubleClickEvent(QMouseEvent* event) override {
-    const int row = logicalIndexAt(event->position().toPoint());
-    if (event->button() == Qt::LeftButton && row >= 0) emit sectionDoubleClicked(row);
-  }
-  void mouseMoveEvent(QMouseEvent* /*event*/) override {}
-  void mouseReleaseEvent(QMouseEvent* /*event*/) override {}
 
  private:
   const GridTable& table_;
