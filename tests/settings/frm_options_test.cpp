@@ -191,6 +191,8 @@ TEST_F(OptionsDialogTest, ChangeStoreAndWindowsWithOkAlone) {
     EXPECT_EQ("", frmMain::TextEditor().TextRTF().runs.front().format.fontName);
     WhenShown([this, key](QWidget* dialog) {
       ChangeAllOptions();
+      dialog->activateWindow();
+      EXPECT_TRUE(QTest::qWaitForWindowActive(dialog));
       The<QWidget>("cmdEditorCancel").setFocus();
       The<QTabWidget>("SSTab").tabBar()->setFocus();
       QTest::keyClick(dialog, key);

@@ -12,9 +12,12 @@ class ToolLibraryTest : public DialogTest {
     Choose("cmbTools", tool);
     auto& files = The<QListWidget>("FileList");
     files.setCurrentItem(files.findItems(file, Qt::MatchExactly).value(0));
+    QWidget* dialog = QApplication::activeModalWidget();
+    dialog->activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(dialog));
     The<QWidget>("cmdClose").setFocus();
     files.setFocus();
-    QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Return);
+    QTest::keyClick(dialog, Qt::Key_Return);
     EXPECT_EQ(file, The<QLabel>("lblFile").text());
   }
   void ExpectError() {

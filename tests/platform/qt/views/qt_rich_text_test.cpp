@@ -129,6 +129,11 @@ TEST_F(QtEditorTest, UndoGoesBackWordByWordAndNeverIntoAColouring) {
   editor.Redo();
   EXPECT_EQ(coloured, editor.TextRTF());
   EXPECT_EQ(7u, editor.SelStart()) << "behind the text, not the colours";
+  editor.SetText("X1\r\nX1");
+  editor.SetSelStart(2);
+  TypeKeys(" X1");
+  editor.Undo();
+  EXPECT_EQ(2u, editor.SelStart()) << "not in front of the same characters";
   editor.SetTextRTF({"M30", {{0, {}}}});
   editor.Undo();
   EXPECT_EQ("M30", editor.Text()) << "a text put in by the program is no edit";
