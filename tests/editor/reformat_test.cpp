@@ -19,6 +19,7 @@ TEST_F(ReformatTest, BringsALineIntoItsCanonicalLayout) {
       {" \r\n\t", ""},
       // Only the pair ends a line, and blanks that keep its halves apart hold it off.
       {"x1\r \t\nx2", "X1\r \n X2"},
+      {"x1\ny2\rz3", "X1\n Y2\r Z3"},
       // Bytes beyond ASCII have no case here, whatever the user's language.
       {std::string("x1\xE4\0z2", 6), std::string("X1\xE4\0 Z2", 7)},
   };

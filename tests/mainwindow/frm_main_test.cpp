@@ -488,6 +488,16 @@ TEST_F(WindowTest, ARowTakesPastedLinesAsOneAndIsFollowedByItsEdit) {
   QApplication::sendEvent(&The<QToolButton>("Pause"), &press);
   EXPECT_TRUE(The<QMenu>("mnuToolBar").isVisible());
   The<QMenu>("mnuToolBar").close();
+  DoubleClickRow(2);
+  box.setText("G28");
+  for (const auto& [reason, stays] : {std::pair{Qt::PopupFocusReason, true},
+                                      {Qt::ActiveWindowFocusReason, true},
+                                      {Qt::MouseFocusReason, false}}) {
+    QFocusEvent left(QEvent::FocusOut, reason);
+    QApplication::sendEvent(&box, &left);
+    EXPECT_EQ(stays, box.isVisible()) << reason;
+  }
+  EXPECT_TRUE(The<QTextEdit>("TextEditor").toPlainText().contains("\nG28\n"));
 }
 
 TEST_F(WindowTest, ABreakPointStopsARunThatClosesWithTheWindow) {
