@@ -339,20 +339,38 @@ TEST_P(ReplaceFileTest, KeepsTheOldFileOnAFullOrReadOnlyDisk) {
   umount2(folder.c_str(), MNT_DETACH);
 }
 
+// And when what it has started, which goes on, then fails to write over the file.
 TEST_P(ReplaceFileTest, LeavesOldOrNewWhenKilledAtAnyCall) {
   prctl(PR_SET_CHILD_SUBREAPER, 1);
-  for (int n = 1;; ++n) {
-    const std::string path = Prepare();
-    *calls = 0;
-    if (fork() == 0) {
-      watch = [n, self = getpid()](long) { return ++*calls == n ? kill(self, SIGKILL) : 0; };
-      _exit(ReplaceFile(path, kReplacement, reason) ? 0 : 1);
+  for (const bool fails : {false, true}) {
+    for (int n = 1;; ++n) {
+      const std::string path = Prepare();
+      *calls = 0;
+      if (fork() == 0) {
+        watch = [=, self = getpid(), left = fails ? 1 : 0](long number) mutable {
+          if (++*calls == n) kill(self, SIGKILL);
+          return number == SYS_pwrite64 && getpid() != self && left-- > 0 ? EIO : 0;
+        };
+        _exit(ReplaceFile(path, kReplacement, reason) ? 0 : 1);
+      }
+      while (wait(nullptr) > 0) continue;
+      ExpectWhole(Bytes("part.cnc") == kReplacement);
+      if (*calls < n) break;
     }
-    // What it has started goes on.
-    while (wait(nullptr) > 0) continue;
-    ExpectWhole(Bytes("part.cnc") == kReplacement);
-    if (*calls < n) break;
   }
+}
+
+// The helping process alone is killed, in the midst of writing over the file.
+TEST_P(ReplaceFileTest, PutsBackWhatAKilledHelperHasLeft) {
+  const std::string path = Prepare();
+  watch = [self = getpid(), done = 0](long number) mutable {
+    const bool isMiddle = getpid() != self && number == SYS_ftruncate && ++done == 1;
+    return isMiddle ? kill(getpid(), SIGKILL) : 0;
+  };
+  const bool saved = ReplaceFile(path, kReplacement, reason);
+  watch = {};
+  EXPECT_EQ(names != 2, saved) << "only such a file is written over";
+  ExpectWhole(saved);
 }
 
 }  // namespace
