@@ -98,6 +98,7 @@ BENCHMARK(AnswerToPause)->Arg(-10)->Arg(0)->Arg(10)->Iterations(1)->Unit(benchma
 int main(int argc, char** argv) {
   const QTemporaryDir settings;
   qputenv("XDG_CONFIG_HOME", settings.path().toUtf8());
+  qputenv("XDG_STATE_HOME", settings.path().toUtf8());
   const QApplication application(argc, argv);
   GlobalVariables::LoadSettings();
   SaveSetting(GlobalVariables::kApplication, "General", "SplashScreen", "0");

@@ -21,11 +21,12 @@ namespace {
 // Gap between the edit box and the grid's right edge, in pixels.
 constexpr double kRightMargin = 4;
 
-std::string TextOfRows() {
+// With the text in the edit box for the row `editedRow`; -1 for none.
+std::string TextOfRows(int editedRow = -1) {
   std::string text;
   for (int row = 0; row < DebugWindow.Rows(); ++row) {
     if (row > 0) text += kLineEnd;
-    text += DebugWindow.TextMatrix(row, kTextColumn);
+    text += row == editedRow ? txtDebug.Text.Get() : DebugWindow.TextMatrix(row, kTextColumn);
   }
   return text;
 }
@@ -105,6 +106,11 @@ void txtDebug_LostFocus() {
   } else {
     txtDebug.Visible = false;
   }
+}
+
+std::string TextWithOpenEdit() {
+  const bool isChanged = txtDebug.Visible && EditChangesRow();
+  return isChanged ? TextOfRows(EditRow) : TextEditor().Text();
 }
 
 void txtDebug_Follow() {

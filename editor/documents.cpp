@@ -5,8 +5,11 @@
 
 #include "debugger/debug_grid.h"
 #include "debugger/row_edit.h"
+#include "editor/colouring.h"
 #include "editor/program_file.h"
 #include "editor/recent_files.h"
+#include "editor/recovery.h"
+#include "editor/recovery_text.h"
 #include "interpreter/machine.h"
 #include "mainwindow/control_surface.h"
 #include "mainwindow/view_toggles.h"
@@ -60,7 +63,18 @@ void PrepareFileDialog() {
 
 void NameDocument(const std::string& path) {
   documentPath = path;
-  StatusBar.Panels("FileName").Text = GetFileName(path);
+  StatusBar.Panels("FileName").Text = NameOfDocument(path);
+}
+
+// False, with a reason, when the document is as unsaved as before. Until the file is whole its
+// recovery file holds the same text, so that a program that ends in between has lost nothing, and
+// has nothing older to offer.
+bool SaveDocument(const std::string& path, std::string& reason) {
+  UpdateRecovery(path);
+  if (!SaveFile(path, reason)) return false;
+  EnableCommands("Save", false);
+  UpdateRecovery(path);
+  return true;
 }
 
 // In place of the index of a file in the recent list: it was chosen elsewhere.
@@ -78,19 +92,25 @@ void ShowProgram(const std::string& path, std::int16_t index) {
   UpdateRecentFiles(path, index);
   FillDebugWindow();
   TextChanged = kFalse;
+  UpdateRecovery(path);
 }
 
 }  // namespace
+
+std::string NameOfDocument(const std::string& path) {
+  return path.empty() ? kUntitled : GetFileName(path);
+}
 
 void mnuFileNew_Click() {
   if (!MayDropDocument()) return;
   TextEditor().SetText("");
   DocumentIsUtf8 = false;
+  DocumentFileBytes.clear();
   DebugWindow.SetRows(1);
   if (!mnuViewTextEditor.Checked) mnuViewTextEditor_Click();
-  documentPath.clear();
-  StatusBar.Panels("FileName").Text = kUntitled;
+  NameDocument("");
   EnableCommands(kProgramCommands, false);
+  UpdateRecovery("");
   if (picSim.Cls) picSim.Cls();
   ActiveControl = "TextEditor";
 }
@@ -103,6 +123,25 @@ void mnuFileOpen_Click() {
 
 void OpenProgram(const std::string& path) {
   if (MayDropDocument()) ShowProgram(path, kNotInList);
+}
+
+bool OpenRecovery(const RecoveryText& document) {
+  if (!MayDropDocument()) return false;
+  DocumentIsUtf8 = document.isUtf8;
+  DocumentFileBytes = document.fileBytes;
+  // What is too long to be coloured, and to be opened from a file, can be typed all the same.
+  if (document.text.size() > kMaxColouredLength) {
+    TextEditor().SetText(document.text);
+  } else {
+    TextBuffer().SetText(document.text);
+    ColourText();
+  }
+  NameDocument(document.path);
+  if (!document.path.empty()) BringToTop(document.path);
+  EnableCommands(kChangedProgramCommands, true);
+  FillDebugWindow();
+  TextChanged = kFalse;
+  return true;
 }
 
 void mnuFileRecentFiles_Click(std::int16_t index) {
@@ -118,11 +157,7 @@ void mnuFileSave_Click() {
   if (FileHasChanged(documentPath) && !MayOverwrite()) return;
   BringToTop(documentPath);
   std::string reason;
-  if (!SaveFile(documentPath, reason)) {
-    Desktop::ShowError(reason);
-    return;
-  }
-  EnableCommands("Save", false);
+  if (!SaveDocument(documentPath, reason)) Desktop::ShowError(reason);
 }
 
 // Whatever fails here ends it silently: "Save" stays enabled, which the save question looks at.
@@ -132,8 +167,7 @@ void mnuFileSaveAS_Click() {
   com.FileName = documentPath;
   if (!com.ShowSave()) return;
   std::string reason;
-  if (!SaveFile(com.FileName, reason)) return;
-  EnableCommands("Save", false);
+  if (!SaveDocument(com.FileName, reason)) return;
   NameDocument(com.FileName);
   UpdateRecentFiles(com.FileName, kNotInList);
 }
@@ -145,10 +179,20 @@ void mnuFileExit_Click() {
 
 void Form_QueryUnload(std::int16_t& cancel, std::int16_t /*unloadMode*/) {
   if (MayDropDocument()) {
+    // Not saved after the question, so given up; during a run nothing was asked.
+    if (IsModified()) {
+      ForgetRecovery();
+    } else {
+      UpdateRecovery(documentPath);
+    }
     Form_Unload();
   } else {
     cancel = kTrue;
   }
+}
+
+void RecoveryTimer_Timer() {
+  UpdateRecovery(documentPath);
 }
 
 void Form_Unload() {
@@ -159,7 +203,9 @@ void Form_Unload() {
 
 void ResetDocuments() {
   DocumentIsUtf8 = false;
+  DocumentFileBytes.clear();
   documentPath.clear();
+  ForgetRecovery();
 }
 
 }  // namespace frmMain

@@ -14,11 +14,9 @@
 namespace frmMain {
 
 bool DocumentIsUtf8;
+std::string DocumentFileBytes;
 
 namespace {
-
-// Of the document's file as it was last read or written here.
-std::string fileBytes;
 
 std::string EditorBytes() {
   const std::string& text = TextEditor().Text();
@@ -53,7 +51,7 @@ bool TakeProgram(const std::string& name, std::string_view bytes, std::string& r
   }
   TextBuffer().SetText(std::move(text));
   DocumentIsUtf8 = decoded.isUtf8;
-  fileBytes = bytes;
+  DocumentFileBytes = bytes;
   return true;
 }
 
@@ -79,13 +77,13 @@ bool ShowProgram(const std::string& name, std::string_view bytes, std::string& r
 bool FileHasChanged(const std::string& path) {
   std::string reason;
   const auto found = ReadFile(path, reason);
-  return !found || (*found != fileBytes && *found != EditorBytes());
+  return !found || (*found != DocumentFileBytes && *found != EditorBytes());
 }
 
 bool SaveFile(const std::string& path, std::string& reason) {
   std::string bytes = EditorBytes();
   if (!ReplaceFile(path, bytes, reason)) return false;
-  fileBytes = std::move(bytes);
+  DocumentFileBytes = std::move(bytes);
   return true;
 }
 

@@ -13,6 +13,9 @@ inline constexpr int kMaxProgramRows = 32'767;
 // The document's file is UTF-8. Written by LoadFile; a new document is none.
 extern bool DocumentIsUtf8;
 
+// Of the document's file as it was last read or written here.
+extern std::string DocumentFileBytes;
+
 // Reads a program into TextBuffer, with every line end made CR LF. When it can't be read, or is
 // longer than what can be coloured or run, the result is false, `reason` says why, and nothing has
 // changed.

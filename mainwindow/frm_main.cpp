@@ -15,6 +15,7 @@
 #include "debugger/row_edit.h"
 #include "editor/documents.h"
 #include "editor/editor_events.h"
+#include "editor/recovery_offer.h"
 #include "interpreter/machine.h"
 #include "mainwindow/control_surface.h"
 #include "mainwindow/frm_main_menus.h"
@@ -96,6 +97,10 @@ void Window::Load() {
   editor_->setFocus();
   // A program that came in while the editor had no size yet.
   editor_->ensureCursorVisible();
+  constexpr int kRecoveryInterval = 500;  // milliseconds
+  recoveryTimer_.callOnTimeout(this, RecoveryTimer_Timer);
+  recoveryTimer_.start(kRecoveryInterval);
+  QMetaObject::invokeMethod(this, OfferRecovery, Qt::QueuedConnection);
 }
 
 void Window::MakeEditor() {

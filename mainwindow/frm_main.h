@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QMainWindow>
+#include <QTimer>
 
 #include "platform/controls.h"
 #include "platform/qt/views/bindings.h"
@@ -43,6 +44,7 @@ class Window : public QMainWindow {
   void FormResized();
 
   Bindings bindings_;
+  QTimer recoveryTimer_;
   // Holds all controls; its inner size is that of the window.
   QWidget* form_;
   QWidget* toolBar_ = nullptr;

@@ -8,6 +8,7 @@
 #include "platform/host/files.h"
 #include "platform/host/notifications.h"
 #include "platform/host/pictures.h"
+#include "platform/host/recovery_files.h"
 #include "platform/host/settings_store.h"
 #include "platform/text.h"
 
@@ -112,7 +113,7 @@ void Sleep(int milliseconds) {
 
 int MessageBox(const std::string& text, int style, const std::string& title) {
   world.messages.push_back({text, style, title});
-  if (world.collectsMessages) return kOk;
+  if (world.collectsMessages) return (style & (kYesNoCancel | kYesNo)) != kOkOnly ? kYes : kOk;
   if (world.expectedMessages.empty()) {
     ADD_FAILURE() << "unexpected message box: " << title << ": " << text;
     return kOk;
@@ -179,6 +180,27 @@ void SaveSetting(std::string_view application, std::string_view section, std::st
   const std::string name = SettingName(section, key);
   world.settings[name] = value;
   world.savedSettings.push_back(name + '=' + std::string(value));
+}
+
+bool WriteRecoveryFile(std::string_view bytes) {
+  if (world.recoveryFails) return false;
+  world.recoveryFile = bytes;
+  ++world.recoveryWrites;
+  return true;
+}
+
+void RemoveRecoveryFile() {
+  world.recoveryFile.clear();
+}
+
+void VisitEndedRecoveryFiles(const std::function<RecoveryFate(const std::string& bytes)>& visit) {
+  std::vector<std::string> stays;
+  for (const std::string& bytes : std::exchange(world.endedRecoveryFiles, {})) {
+    const RecoveryFate fate = visit(bytes);
+    if (fate == RecoveryFate::Stays) stays.push_back(bytes);
+    if (fate == RecoveryFate::BecomesOwn) world.recoveryFile = bytes;
+  }
+  world.endedRecoveryFiles = stays;
 }
 
 std::string ApplicationFolder() {

@@ -42,6 +42,10 @@ struct FakeWorld {
   std::map<std::string, Raster> pictures;
   std::map<std::string, std::string> files;
   std::string writeFailure;
+  std::string recoveryFile;
+  int recoveryWrites = 0;
+  bool recoveryFails = false;
+  std::vector<std::string> endedRecoveryFiles;
   std::map<std::string, std::string> settings;
   std::vector<std::string> savedSettings;
 };
@@ -74,7 +78,8 @@ class Fakes {
   static void ExpectMessage(const FakeMessage& message) {
     world.expectedMessages.push_back(message);
   }
-  // From now on no message box needs to be expected; each gets the answer OK.
+  // From now on no message box needs to be expected; each gets the answer OK or
+  // Yes.
   static void CollectMessages() { world.collectsMessages = true; }
   // Every message box so far, in order.
   static const std::vector<FakeMessage>& Messages() { return world.messages; }
@@ -113,6 +118,12 @@ class Fakes {
   static void RemovePicture(const std::string& path);
   static void PutFile(const std::string& path, const std::string& bytes);
   static std::string FileBytes(const std::string& path);
+  // This program's, empty when there is none, and those of programs that have ended.
+  static const std::string& RecoveryFile() { return world.recoveryFile; }
+  static std::vector<std::string>& EndedRecoveryFiles() { return world.endedRecoveryFiles; }
+  // How often it has been written, and whether that is to fail from now on.
+  static int RecoveryWrites() { return world.recoveryWrites; }
+  static void FailRecovery(bool fails) { world.recoveryFails = fails; }
   // Every later ReplaceFile fails with this reason, until it is empty.
   static void FailWrites(const std::string& reason) { world.writeFailure = reason; }
 

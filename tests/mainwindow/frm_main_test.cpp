@@ -26,6 +26,7 @@
 #include <QWindow>
 #include <gtest/gtest.h>
 
+#include "editor/recovery_text.h"
 #include "interpreter/machine.h"
 #include "mainwindow/control_surface.h"
 #include "mainwindow/notifications.h"
@@ -46,6 +47,7 @@ class WindowTest : public testing::Test {
  protected:
   WindowTest() {
     qputenv("XDG_CONFIG_HOME", folder.path().toUtf8());
+    qputenv("XDG_STATE_HOME", folder.path().toUtf8());
     frmMain::ResetToProgramStart();
     GlobalVariables::LoadSettings();
     Store("General", "SplashScreen", "0");
@@ -523,6 +525,50 @@ TEST_F(WindowTest, EscDismissesTheNotificationBesideIt) {
   EXPECT_TRUE(isUp());
   Key(Qt::Key_Escape);
   EXPECT_TRUE(QTest::qWaitFor([&] { return !isUp(); }));
+}
+
+TEST_F(WindowTest, ATextThatWasLeftIsOfferedOnTheWindowAndKeptOnFromThere) {
+  const auto bytes = [](const char* text) {
+    return QByteArray::fromStdString(frmMain::EncodeRecovery({"/gone/part.cnc", false, text}));
+  };
+  QDir(folder.path()).mkdir("turnbay");
+  QFile left(folder.filePath("turnbay/1-2.recovery"));
+  EXPECT_TRUE(left.open(QIODevice::WriteOnly));
+  left.write(bytes("G04"));
+  left.close();
+  const auto read = [&left] {
+    EXPECT_TRUE(left.open(QIODevice::ReadOnly));
+    const QByteArray all = left.readAll();
+    left.close();
+    return all;
+  };
+  for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Return}) {
+    QString asked;
+    QTimer user;
+    user.callOnTimeout([&] {
+      auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+      if (box == nullptr || !window->isVisible()) return;
+      asked = box->windowTitle() + ": " + box->text();
+      for (QAbstractButton* button : box->buttons()) {
+        if (button->isVisible()) asked += ' ' + button->text();
+      }
+      QTest::keyClick(box, key);
+    });
+    user.start(0);
+    window.reset();
+    window = std::make_unique<frmMain::Window>();
+    window->Load();
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] { return !asked.isEmpty() && QApplication::activeModalWidget() == nullptr; }));
+    EXPECT_EQ(
+        "Orvane's Turnbay: Turnbay ended while \"part.cnc\" had changes that were not saved. "
+        "Open them? &Yes &No",
+        asked);
+    EXPECT_EQ(bytes("G04"), read());
+    EXPECT_EQ(key == Qt::Key_Return, IsOpen("Save"));
+  }
+  QTest::keyClick(&The<QTextEdit>("TextEditor"), Qt::Key_X);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return read() == bytes("XG04"); }));
 }
 
 TEST_F(WindowTest, ADroppedFileIsOpened) {
