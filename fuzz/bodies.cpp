@@ -3,10 +3,14 @@
 #include <algorithm>
 #include <stdexcept>
 #include <string>
+#include <utility>
 #include <variant>
 #include <vector>
 
 #include "debugger/debug_grid.h"
+#include "editor/documents.h"
+#include "editor/recovery_offer.h"
+#include "editor/recovery_text.h"
 #include "editor/reformat.h"
 #include "editor/syntax_check.h"
 #include "interpreter/run_driver.h"
@@ -16,6 +20,7 @@
 #include "motion/tool.h"
 #include "platform/code_page.h"
 #include "platform/host/settings_store.h"
+#include "platform/settings_text.h"
 #include "platform/text.h"
 #include "settings/settings.h"
 #include "tests/fakes/machine_test.h"
@@ -89,6 +94,13 @@ void StartMachine() {
   frmMain::Form_Resize();
 }
 
+// What stands in front of the first byte 1, and what behind.
+std::pair<std::string, std::string> Halves(std::string_view bytes) {
+  const std::size_t end = std::min(bytes.find('\1'), bytes.size());
+  return {std::string(bytes.substr(0, end)),
+          std::string(bytes.substr(std::min(end + 1, bytes.size())))};
+}
+
 }  // namespace
 
 void Program(std::string_view bytes) {
@@ -131,11 +143,41 @@ void Settings(std::string_view values) {
   }
 }
 
+void SettingsText(std::string_view bytes) {
+  const auto [store, value] = Halves(bytes);
+  const std::string written = WithSetting(store, "Debug", "Font", value);
+  Require(FindSetting(written, "Debug", "Font") == value, "a value is read as it was written");
+  Require(WithSetting(written, "Debug", "Font", value) == written, "and written once");
+  const std::pair<const char*, const char*> others[] = {{"Debug", "Size"}, {"General", "Font"}};
+  for (const auto& [section, key] : others) {
+    Require(FindSetting(written, section, key) == FindSetting(store, section, key),
+            "no other value changes");
+  }
+}
+
+void Recovery(std::string_view bytes) {
+  StartMachine();
+  // Nobody guesses a check sum, so the rest is tried behind a right one as well.
+  const std::string_view rest = bytes.substr(std::min(bytes.find('\n') + 1, bytes.size()));
+  auto parts = Split(rest, std::string_view("\0", 1));
+  parts.resize(std::max<std::size_t>(parts.size(), 3));
+  const frmMain::RecoveryText document{std::string(parts[0]), bytes.size() % 2 == 0,
+                                       std::string(parts[2]), std::string(parts[1])};
+  const auto read = frmMain::DecodeRecovery(bytes);
+  Require(!read || frmMain::EncodeRecovery(*read) == bytes, "a file is read as it was written");
+  Fakes::EndedRecoveryFiles() = {frmMain::EncodeRecovery(document)};
+  frmMain::OfferRecovery();
+  Require(frmMain::TextEditor().Text() == document.text, "what is offered is opened");
+  frmMain::RecoveryTimer_Timer();
+  Require(document.text.empty() || frmMain::DecodeRecovery(Fakes::RecoveryFile()) == document,
+          "and kept as it was");
+}
+
 void ToolFiles(std::string_view files) {
   StartMachine();
-  const std::size_t end = std::min(files.find('\1'), files.size());
-  Fakes::PutFile("/app/tools/ToolList.ini", std::string(files.substr(0, end)));
-  Fakes::PutFile("/app/tools/a.ini", std::string(files.substr(std::min(end + 1, files.size()))));
+  const auto [list, description] = Halves(files);
+  Fakes::PutFile("/app/tools/ToolList.ini", list);
+  Fakes::PutFile("/app/tools/a.ini", description);
   Graphics::LoadTool("/app/tools/tool.bmp", 8, 8);
   frmToolSelect::GetToolList();
   auto listed = frmToolSelect::cmbTools.ItemData;

@@ -4,7 +4,9 @@
 #include <iterator>
 #include <string>
 
+#include "editor/program_file.h"
 #include "fuzz/bodies.h"
+#include "mainwindow/control_surface.h"
 #include "motion/player.h"
 #include "motion/tool.h"
 #include "settings/settings.h"
@@ -28,6 +30,10 @@ TEST(FuzzSeedsTest, EverySeedPasses) {
   EXPECT_TRUE(SeedsReach("program", Fuzz::Program, [] { return GCodes::PointsPlayed > 500; }));
   EXPECT_TRUE(SeedsReach("settings", Fuzz::Settings,
                          [] { return GlobalVariables::Settings.EditorFontSize == 12; }));
+  EXPECT_TRUE(SeedsReach("settings_text", Fuzz::SettingsText, [] { return true; }));
+  EXPECT_TRUE(SeedsReach("recovery", Fuzz::Recovery, [] {
+    return frmMain::DocumentIsUtf8 && frmMain::TextEditor().Text().ends_with("X20");
+  }));
   EXPECT_TRUE(SeedsReach("tool_files", Fuzz::ToolFiles, [] { return Graphics::ToolWidth == 40; }));
 }
 
