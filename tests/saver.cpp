@@ -1,7 +1,7 @@
 // Saves one kind of file again and again, for tests/reliability: saver KIND FOLDER COUNT; a COUNT
-// of 0 goes on until it is killed. The kinds are program, settings and tools. Each save differs
-// from the one before, and begins and ends with a call that a trace shows. Exit status 1 when a
-// save failed.
+// of 0 goes on until it is killed. The kinds are program, settings, tools and recovery. Each save
+// differs from the one before, and begins and ends with a call that a trace shows. Exit status 1
+// when a save failed.
 
 #include <cstdio>
 #include <cstdlib>
@@ -11,6 +11,7 @@
 
 #include "editor/program_file.h"
 #include "mainwindow/control_surface.h"
+#include "platform/host/recovery_files.h"
 #include "platform/host/settings_store.h"
 #include "platform/numbers.h"
 #include "platform/qt/host/settings_trouble.h"
@@ -38,6 +39,10 @@ bool Save(std::string_view kind, const std::string& folder, int version, std::st
     SaveSetting("CNC", "General", "Version", DecimalText(version));
     return reason.empty();
   }
+  if (kind == "recovery") {
+    if (!WriteRecoveryFile(VersionText(version))) reason = "No recovery file";
+    return reason.empty();
+  }
   for (std::string& name : GlobalVariables::ToolFiles) name = 'v' + DecimalText(version) + ".bmp";
   return frmToolSelect::WriteToolList(reason);
 }
@@ -49,6 +54,9 @@ int main(int argc, char** argv) {
   const std::string folder = argv[2];
   const int count = ParseInt16(argv[3]).value_or(0);
   setenv("XDG_CONFIG_HOME", folder.c_str(), 1);
+  setenv("XDG_STATE_HOME", folder.c_str(), 1);
+  // The file of the one that was killed, so that its name stays the same.
+  VisitEndedRecoveryFiles([](const std::string&) { return RecoveryFate::BecomesOwn; });
   GlobalVariables::SetToolFolder(folder);
   int status = 0;
   for (int i = 1; count == 0 || i <= count; ++i) {
