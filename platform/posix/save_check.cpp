@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr unsigned long kRoom = 64 * 1024;  // bytes
+constexpr unsigned long kRoom = 65'536;  // bytes
 
 bool MayWrite(const std::string& path) {
   return faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) == 0;
