@@ -12,9 +12,10 @@
 #include "platform/qt/host/dialog_owner.h"
 #include "settings/settings.h"
 
-namespace frmMain {
-
 namespace {
+
+using frmMain::StatusBar;
+using frmMain::TextEditor;
 
 constexpr double kMarginMillimetres = 15;
 
@@ -40,7 +41,7 @@ bool PrintToFile(const Listing& listing, const QPrinter& printer, std::string& r
 
 }  // namespace
 
-void mnuFilePrint_Click() {
+void PrintProgram() {
   const Listing listing = EditorListing();
   QPrinter printer(QPrinter::HighResolution);
   printer.setDocName(listing.title);
@@ -53,5 +54,3 @@ void mnuFilePrint_Click() {
                                                           : PrintToFile(listing, printer, reason);
   if (!printed) Desktop::ShowError(reason);
 }
-
-}  // namespace frmMain

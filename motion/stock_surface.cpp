@@ -4,7 +4,8 @@
 
 void StockSurface::Create(int width, int height, Colour colour) {
   Forget();
-  raster_ = Raster(width, height);
+  // A window is laid out several times at one size.
+  if (raster_.Width() != width || raster_.Height() != height) raster_ = Raster(width, height);
   Fill(raster_.Area(), colour);
 }
 

@@ -191,9 +191,7 @@ void TurnedPartWindow::closeEvent(QCloseEvent* /*event*/) {
   if (!spinLoopRuns_) deleteLater();
 }
 
-namespace frmMain {
-
-void mnuView3DWindow_Click() {
+void Show3DWindow() {
   if (loaded == nullptr) {
     loaded = new TurnedPartWindow;
     loaded->Form_Load();
@@ -204,5 +202,3 @@ void mnuView3DWindow_Click() {
   loaded->raise();
   loaded->requestActivate();
 }
-
-}  // namespace frmMain

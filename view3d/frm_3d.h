@@ -44,6 +44,9 @@ class TurnedPartWindow : public QWindow {
   QSize lastSize_{0, 0};
 };
 
+// In a library of its own, for OpenGL.
+extern "C" void Show3DWindow();
+
 namespace frmMain {
 
 // Shows frm3D, which it loads if it isn't loaded.

@@ -1,36 +1,17 @@
-#include <QApplication>
-#include <QAudioDevice>
-#include <QMediaDevices>
-#include <QSoundEffect>
-#include <QUrl>
-
 #include "platform/host/desktop.h"
 #include "platform/host/files.h"
-
-namespace {
-
-QSoundEffect* sound = nullptr;
-
-// Audio threads must end before the application object does.
-void DeleteSound() {
-  delete sound;
-  sound = nullptr;
-}
-
-}  // namespace
+#include "platform/qt/host/late_library.h"
+#include "platform/qt/host/sound_effect.h"
 
 namespace Desktop {
 
+// Without its library there is silence, as without a device.
 void sndPlaySoundA(const std::string& path, int flags) {
-  if (QMediaDevices::defaultAudioOutput().isNull()) return;
-  if (sound == nullptr) {
-    sound = new QSoundEffect;
-    qAddPostRoutine(DeleteSound);
-  }
-  sound->stop();
-  sound->setSource(QUrl::fromLocalFile(QString::fromStdString(AssetPath(path))));
-  sound->setLoopCount((flags & kSoundLoop) != 0 ? int{QSoundEffect::Infinite} : 1);
-  sound->play();
+  std::string reason;
+  static const auto play = reinterpret_cast<decltype(&PlaySoundEffect)>(
+      LateRoutine("turnbay_sound", "PlaySoundEffect", reason));
+  if (play == nullptr) return;
+  play(QString::fromStdString(AssetPath(path)), (flags & kSoundLoop) != 0);
 }
 
 }  // namespace Desktop
