@@ -15,7 +15,7 @@ namespace {
 
 QIcon ProgramIcon() {
   QIcon icon;
-  for (const int size : {16, 24, 32, 48, 64, 128, 256}) {
+  for (const int size : {16, 24, 32, 48, 64, 128}) {
     icon.addFile(QString(":/pictures/icon/turnbay_%1.png").arg(size));
   }
   return icon;
