@@ -130,6 +130,7 @@ void Window::MakePicture() {
   picture_->setObjectName("picSim");
   picture_->setAccessibleName("Simulation area");
   picture_->Paint = Graphics::DrawSurface;
+  picture_->Measure = Graphics::Measure;
 }
 
 void Window::MakeOverlays() {

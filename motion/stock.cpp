@@ -62,10 +62,18 @@ std::string Millimetres(int tenths) {
 }
 
 // As it is programmed: X is a diameter.
+std::string Position(int z, int x) {
+  return "X " + Millimetres(2 * x) + "  Z " + Millimetres(z);
+}
+
 void ShowToolPosition() {
-  if (!toolZ) return;
-  frmMain::StatusBar.Panels("ToolPosition").Text =
-      "X " + Millimetres(2 * toolX) + "  Z " + Millimetres(*toolZ);
+  if (toolZ) frmMain::StatusBar.Panels("ToolPosition").Text = Position(*toolZ, toolX);
+}
+
+// Null beside the part.
+const ProfileColumn* ColumnAt(int z) {
+  if (z > 0 || -z >= static_cast<int>(StockProfile.size())) return nullptr;
+  return &StockProfile[static_cast<std::size_t>(-z)];
 }
 
 }  // namespace
@@ -118,6 +126,14 @@ void DrawSurface() {
   if (!frmMain::picSim.Blt) return;
   const Raster& surface = StockDC.Read();
   frmMain::picSim.Blt(surface, StockDC.TakeChanged());
+}
+
+std::string Measure(int column, int row) {
+  if (StockProfile.empty() || frmMain::Toolbar.Buttons("Stop").Enabled) return {};
+  const int z = column - BilletZ;
+  const ProfileColumn* part = ColumnAt(z);
+  const std::string diameter = part != nullptr ? "   Ø " + Millimetres(2 * part->Radius) : "";
+  return Position(z, CentreLine - row) + diameter;
 }
 
 void ApplyEffect() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 #include <vector>
 
 #include "motion/stock_surface.h"
@@ -50,6 +51,12 @@ void ShowToolAt(int z, int x);
 
 // Copies what has changed of the surface to picSim, and the tool's position to its panel.
 void DrawSurface();
+
+// What lies at a pixel of the surface, for the user: the machine's position there as it is
+// programmed, and the part's diameter at that column, in millimetres and UTF-8, such as
+// "X 42.0  Z -21.3   Ø 28.0". Beside the part without a diameter; empty while there is no part and
+// while a run is active.
+std::string Measure(int column, int row);
 
 // Draws a line in EffectColor across each shoulder that faces right, then calls DrawSurface.
 void ApplyEffect();

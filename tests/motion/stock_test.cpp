@@ -32,4 +32,18 @@ TEST_F(StockTest, OnlyWhatChangedIsShown) {
   EXPECT_EQ((std::vector<PixelRect>{{0, 0, 400, 300}, {}, {79, 0, 79 + 68, 300}}), shown);
 }
 
+TEST_F(StockTest, ThePartIsMeasuredWhileNoRunIsActive) {
+  EXPECT_EQ("", Graphics::Measure(10, 10)) << "there is no part";
+  Graphics::InitStock(100, 200);
+  Graphics::MoveTool(-20, 60);
+  constexpr std::tuple<int, int, const char*> kPlaces[] = {
+      {80, 87, "X 12.6  Z -2.0   Ø 12.0"}, {79, 251, "X -20.2  Z -2.1   Ø 20.0"},
+      {0, 150, "X 0.0  Z -10.0   Ø 20.0"}, {100, 150, "X 0.0  Z 0.0   Ø 20.0"},
+      {101, 0, "X 30.0  Z 0.1"},
+  };
+  for (const auto& [column, row, text] : kPlaces) EXPECT_EQ(text, Graphics::Measure(column, row));
+  frmMain::EnableCommands("Stop", true);
+  EXPECT_EQ("", Graphics::Measure(80, 87));
+}
+
 }  // namespace

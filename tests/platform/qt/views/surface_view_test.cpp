@@ -1,5 +1,6 @@
 #include "platform/qt/views/surface_view.h"
 
+#include <QApplication>
 #include <QPaintEvent>
 #include <QTest>
 #include <gtest/gtest.h>
@@ -60,6 +61,28 @@ TEST_F(SurfaceViewTest, APaintFirstAsksForWhatWasNeverCopied) {
     box.Blt(surface, {3, 4, 4, 5});
   };
   EXPECT_EQ(0xFF0000FF, Picture().pixel(3, 4));
+}
+
+TEST_F(SurfaceViewTest, WhatIsMeasuredStandsBesideThePointer) {
+  std::string unit = " mm";
+  view.Measure = [&](int x, int y) {
+    return unit.empty() ? unit : std::to_string(x) + ' ' + std::to_string(y) + unit;
+  };
+  const QLabel& label = *view.findChild<QLabel*>("lblMeasure");
+  for (const QPoint& place : {QPoint(2, 3), QPoint(119, 79), QPoint(119, 3)}) {
+    QTest::mouseMove(&view, place);
+    EXPECT_EQ(QString("%1 %2 mm").arg(place.x()).arg(place.y()), label.text());
+    EXPECT_TRUE(label.isVisible() && view.rect().contains(label.geometry()));
+    EXPECT_FALSE(label.geometry().contains(place));
+  }
+  unit.clear();
+  box.Blt(surface, {});
+  EXPECT_FALSE(label.isVisible()) << "a run has begun";
+  unit = " mm";
+  QTest::mouseMove(&view, {5, 5});
+  QEvent leave(QEvent::Leave);
+  QApplication::sendEvent(&view, &leave);
+  EXPECT_FALSE(label.isVisible());
 }
 
 }  // namespace
