@@ -35,6 +35,15 @@ QFont FontOf(const GridTable& table, int row, int column, QFont font) {
   return font;
 }
 
+// Of the border that shows the focus, in pixels.
+constexpr int kFocusWidth = 2;
+
+void DrawFocus(QWidget& widget, const QPalette& colours, const QRect& place) {
+  QPainter painter(&widget);
+  painter.setPen(QPen(colours.color(QPalette::Highlight), kFocusWidth));
+  painter.drawRect(place.adjusted(1, 1, -1, -1));
+}
+
 // Along the right and the lower edge.
 void DrawLines(QPainter& painter, const QRect& cell) {
   painter.setPen(ToQColor(kLineColour));
@@ -82,8 +91,8 @@ class CellPainter : public QStyledItemDelegate {
 // The fixed column.
 class LineNumbers : public QHeaderView {
  public:
-  LineNumbers(const GridTable& table, QWidget* parent)
-      : QHeaderView(Qt::Vertical, parent), table_(table) {
+  LineNumbers(const GridTable& table, GridView* parent)
+      : QHeaderView(Qt::Vertical, parent), table_(table), grid_(*parent) {
     setSectionsClickable(true);
     setSectionResizeMode(QHeaderView::Fixed);
     setMinimumSectionSize(1);
@@ -91,7 +100,8 @@ class LineNumbers : public QHeaderView {
 
  protected:
   void paintSection(QPainter* painter, const QRect& rect, int row) const override {
-    painter->fillRect(rect, palette().button());
+    const bool isCurrent = grid_.FocusRow() == row;
+    painter->fillRect(rect, isCurrent ? palette().highlight() : palette().button());
     if (table_.GridLines() != 0) DrawLines(*painter, rect);
     const QString number = CellText(table_, row, 0);
     const QRect space = rect.adjusted(kTextMargin, 0, -kTextMargin, 0);
@@ -102,7 +112,7 @@ class LineNumbers : public QHeaderView {
       numberFont.setPointSizeF(std::max(numberFont.pointSizeF() * space.width() / width, 1.0));
     }
     painter->setFont(numberFont);
-    painter->setPen(palette().color(QPalette::ButtonText));
+    painter->setPen(palette().color(isCurrent ? QPalette::HighlightedText : QPalette::ButtonText));
     painter->drawText(space, Qt::AlignVCenter | Qt::AlignRight, number);
   }
   void paintEvent(QPaintEvent* event) override {
@@ -120,6 +130,7 @@ class LineNumbers : public QHeaderView {
 
  private:
   const GridTable& table_;
+  const GridView& grid_;
 };
 
 // The fixed row.
@@ -175,6 +186,7 @@ GridView::GridView(GridTable& table, const QString& pictureFolder, QWidget* pare
   connect(verticalHeader(), &QHeaderView::sectionPressed, this, [this](int row) {
     table_.MouseRow = row;
     table_.MouseCol = 0;
+    MakeCurrent(row);
     if (Click) Click();
   });
   connect(verticalHeader(), &QHeaderView::sectionDoubleClicked, this, [this](int row) {
@@ -200,6 +212,7 @@ void GridView::FixFirstRow() {
 void GridView::mousePressEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton) return;
   TellMouseCell(event->position().toPoint());
+  MakeCurrent(table_.MouseRow);
   if (Click) Click();
 }
 
@@ -207,6 +220,65 @@ void GridView::mouseDoubleClickEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton) return;
   TellMouseCell(event->position().toPoint());
   if (DblClick) DblClick();
+}
+
+// Keys that a control over the grid has left arrive here as well.
+void GridView::keyPressEvent(QKeyEvent* event) {
+  const int row = FocusRow();
+  const bool isPlain = (event->modifiers() & ~Qt::KeypadModifier) == 0;
+  const auto act = [&](int column, const std::function<void()>& handler) {
+    table_.MouseRow = row;
+    table_.MouseCol = column;
+    if (handler) handler();
+  };
+  switch (isPlain && row >= 0 ? event->key() : Qt::Key_unknown) {
+    case Qt::Key_Space:
+      return act(kMarkColumn, Click);
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_F2:
+      return act(kTextColumn, DblClick);
+    default:
+      QTableView::keyPressEvent(event);
+  }
+}
+
+void GridView::focusInEvent(QFocusEvent* event) {
+  QTableView::focusInEvent(event);
+  if (!currentIndex().isValid()) MakeCurrent(table_.TopRow);
+  ShowFocus();
+}
+
+void GridView::focusOutEvent(QFocusEvent* event) {
+  QTableView::focusOutEvent(event);
+  ShowFocus();
+}
+
+void GridView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+  QTableView::currentChanged(current, previous);
+  ShowFocus();
+}
+
+void GridView::paintEvent(QPaintEvent* event) {
+  QTableView::paintEvent(event);
+  if (!hasFocus()) return;
+  const int row = FocusRow();
+  const QRect whole = viewport()->rect();
+  DrawFocus(*viewport(), palette(),
+            row < 0 ? whole : QRect(0, rowViewportPosition(row), whole.width(), rowHeight(row)));
+}
+
+// The row in which the keys act; it is brought into view by them alone.
+void GridView::MakeCurrent(int row) {
+  if (!Click) return;
+  setAutoScroll(false);
+  setCurrentIndex(model_->index(row, kTextColumn));
+  setAutoScroll(true);
+}
+
+void GridView::ShowFocus() {
+  viewport()->update();
+  verticalHeader()->viewport()->update();
 }
 
 // There is nothing to select or drag.
@@ -221,6 +293,7 @@ void GridView::showEvent(QShowEvent* event) {
 void GridView::scrollContentsBy(int dx, int dy) {
   QTableView::scrollContentsBy(dx, dy);
   if (dy != 0) AlignTopRow();
+  if (hasFocus()) ShowFocus();
 }
 
 void GridView::updateGeometries() {
@@ -231,7 +304,9 @@ void GridView::updateGeometries() {
 void GridView::FollowTable(const GridChange& change) {
   const QScopedValueRollback applying(applying_, true);
   if (change.All) {
+    const int row = currentIndex().row();
     model_->TellOfAll();
+    MakeCurrent(std::max(row, 0));
   } else {
     model_->TellOfRows(change.First, change.Last);
   }

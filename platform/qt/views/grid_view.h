@@ -20,13 +20,22 @@ class GridView : public QTableView {
   void FixFirstRow();
 
   // Both are called when the table's MouseRow and MouseCol tell where. The first click of a double
-  // click has been a click before.
+  // click has been a click before. In a grid that hears clicks the keyboard has a current row:
+  // Space clicks its mark, Enter and F2 double click its text.
   std::function<void()> Click;
   std::function<void()> DblClick;
+
+  // The current row while the grid has the focus; -1 else.
+  int FocusRow() const { return Click && hasFocus() ? currentIndex().row() : -1; }
 
  protected:
   void mousePressEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
+  void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+  void paintEvent(QPaintEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void showEvent(QShowEvent* event) override;
@@ -39,6 +48,8 @@ class GridView : public QTableView {
   void ApplyTopRow();
   void AlignTopRow();
   void TellMouseCell(const QPoint& place);
+  void MakeCurrent(int row);
+  void ShowFocus();
 
   GridTable& table_;
   GridModel* model_;

@@ -132,4 +132,31 @@ TEST_F(GridViewTest, CellsShowTheirFormats) {
   EXPECT_EQ(kEmptyArea, Pixel(5, 3 * 19 + 10)) << "also under the line numbers";
 }
 
+TEST_F(GridViewTest, TheKeyboardHasACurrentRowThatIsSeenWithTheFocus) {
+  const QRgb highlight = view.palette().highlight().color().rgb();
+  const auto press = [&](std::initializer_list<Qt::Key> keys) {
+    for (const Qt::Key key : keys) QTest::keyClick(&view, key);
+    return std::exchange(heard, {});
+  };
+  table.TopRow = 1;
+  view.setFocus();
+  EXPECT_EQ("click 2 1, double 2 2, double 2 2, double 2 2, ",
+            press({Qt::Key_Down, Qt::Key_Down, Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter,
+                   Qt::Key_F2}));
+  EXPECT_EQ(highlight, Pixel(1, 19 + 1));
+  EXPECT_EQ(highlight, Pixel(30 + 100, 19 + 1));
+  EXPECT_NE(highlight, Pixel(30 + 100, 2 * 19 + 1));
+  QTest::keyClick(&view, Qt::Key_Space, Qt::ControlModifier);
+  table.TopRow = 40;
+  Fill(90);
+  EXPECT_EQ(40, table.TopRow) << "only its keys bring the row into view";
+  EXPECT_EQ("click 2 1, ", press({Qt::Key_Space}));
+  ClickCell(100, 5);
+  EXPECT_EQ("click 40 2, click 41 1, ", press({Qt::Key_Down, Qt::Key_Space}));
+  view.clearFocus();
+  EXPECT_NE(highlight, Pixel(1, 19 + 1));
+  view.Click = nullptr;
+  EXPECT_EQ("", press({Qt::Key_Space, Qt::Key_Return}));
+}
+
 }  // namespace
