@@ -1,6 +1,7 @@
 #include "mainwindow/frm_main_status_bar.h"
 
 #include <QLabel>
+#include <QPainter>
 #include <algorithm>
 #include <cmath>
 
@@ -12,6 +13,11 @@ namespace {
 
 // Pixels between a panel and the bar's upper and lower edge, and the next panel.
 constexpr int kGap = 2;
+
+// Pixels between the border of a panel and its text.
+constexpr int kTextMargin = 2;
+// Of the text's colour in that of the borders, which styles draw too faint on a dark ground.
+constexpr float kBorderStrength = 0.4F;
 
 QFont PanelFont() {
   QFont font("Courier New", 9);
@@ -30,7 +36,7 @@ StatusBarView::StatusBarView(QWidget* parent) : QWidget(parent) {
     auto* label = new QLabel(this);
     label->setObjectName(QString::fromUtf8(panel.Key.data(), static_cast<int>(panel.Key.size())));
     label->setTextFormat(Qt::PlainText);
-    label->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
+    label->setContentsMargins(kTextMargin, 0, kTextMargin, 0);
     label->setFont(PanelFont());
     label->setToolTip(kPanels[i++].Tip);
     label->setGeometry(static_cast<int>(std::lround(panel.Left)), kGap,
@@ -41,6 +47,16 @@ StatusBarView::StatusBarView(QWidget* parent) : QWidget(parent) {
       label->setText(label->fontMetrics().elidedText(whole, Qt::ElideRight, room));
       label->setAccessibleName(label->toolTip() + ": " + whole);
     });
+  }
+}
+
+void StatusBarView::paintEvent(QPaintEvent* /*event*/) {
+  QColor border = palette().color(QPalette::WindowText);
+  border.setAlphaF(kBorderStrength);
+  QPainter painter(this);
+  painter.setPen(border);
+  for (const QLabel* panel : findChildren<QLabel*>()) {
+    painter.drawRect(panel->geometry().adjusted(0, 0, -1, -1));
   }
 }
 

@@ -12,6 +12,9 @@ class StatusBarView : public QWidget {
  public:
   explicit StatusBarView(QWidget* parent);
 
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
  private:
   Bindings bindings_;
 };

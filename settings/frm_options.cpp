@@ -2,6 +2,9 @@
 
 #include <QHBoxLayout>
 #include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 #include "mainwindow/control_surface.h"
@@ -19,6 +22,27 @@ namespace {
 
 // Pixels; larger where the font asks for it.
 constexpr QSize kSmallestSize(447, 474);
+
+// What a window manager may put around the dialog, in pixels.
+constexpr int kTitleHeight = 40;
+
+// A page that scrolls on a small screen alone: it asks for all the room that its page asks for.
+class PageScroll : public QScrollArea {
+ public:
+  explicit PageScroll(QWidget* page) {
+    setFrameShape(QFrame::NoFrame);
+    setWidgetResizable(true);
+    // The controls of the page bring themselves into view.
+    setFocusPolicy(Qt::NoFocus);
+    setWidget(page);
+    // Both show the colours of the tab.
+    page->setAutoFillBackground(false);
+    viewport()->setAutoFillBackground(false);
+  }
+
+ protected:
+  QSize sizeHint() const override { return widget()->sizeHint(); }
+};
 
 QPushButton* MakeButton(const char* name, const QString& caption) {
   auto* button = new QPushButton(caption);
@@ -49,9 +73,9 @@ OptionsDialog::OptionsDialog(QWidget* parent)
   simulation_->ColourChanged = [this] { debug_->cmbDebugColors_Click(); };
   tabs_ = new QTabWidget;
   tabs_->setObjectName("SSTab");
-  tabs_->addTab(editor_, "Editor");
-  tabs_->addTab(debug_, "Debug");
-  tabs_->addTab(simulation_, "Simulation");
+  tabs_->addTab(new PageScroll(editor_), "Editor");
+  tabs_->addTab(new PageScroll(debug_), "Debug");
+  tabs_->addTab(new PageScroll(simulation_), "Simulation");
   connect(tabs_, &QTabWidget::currentChanged, this, [this] { SSTab_Click(); });
 
   auto* layout = new QHBoxLayout(this);
@@ -63,10 +87,21 @@ OptionsDialog::OptionsDialog(QWidget* parent)
   layout->insertWidget(0, MakeStrip());
   // Of the dialog, which the button has joined only now.
   cmdOK_->setDefault(true);
-  setFixedSize(sizeHint().expandedTo(kSmallestSize));
+  setFixedSize(WholeSize());
 
   LoadWorkingColors();
   LoadOptions();
+}
+
+// Larger where the font asks for it, lower where the screen does: then a scroll bar stands beside
+// the page.
+QSize OptionsDialog::WholeSize() const {
+  QSize size = sizeHint().expandedTo(kSmallestSize);
+  const int room = screen()->availableGeometry().height() - kTitleHeight;
+  if (size.height() > room) {
+    size = {size.width() + style()->pixelMetric(QStyle::PM_ScrollBarExtent), room};
+  }
+  return size;
 }
 
 QWidget* OptionsDialog::MakeStrip() {
@@ -95,8 +130,9 @@ void OptionsDialog::LoadOptions() {
 }
 
 void OptionsDialog::SSTab_Click() {
-  if (tabs_->currentWidget() == debug_) debug_->PaintDebugSample();
-  if (tabs_->currentWidget() == simulation_) simulation_->PaintSimulationSample();
+  const QWidget* shown = tabs_->currentWidget();
+  if (shown->isAncestorOf(debug_)) debug_->PaintDebugSample();
+  if (shown->isAncestorOf(simulation_)) simulation_->PaintSimulationSample();
 }
 
 void OptionsDialog::cmdOK_Click() {

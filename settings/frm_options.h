@@ -19,6 +19,7 @@ class OptionsDialog : public QDialog {
   explicit OptionsDialog(QWidget* parent);
 
  private:
+  QSize WholeSize() const;
   QWidget* MakeStrip();
   void LoadWorkingColors();
   void LoadOptions();

@@ -33,6 +33,9 @@ class OptionsDialogTest : public DialogTest {
     Press("chkShowLineNumber");
     Pick("lblBackColor", QColor(7, 8, 9), true);
   }
+  static const GridTable& SampleRows() {
+    return dynamic_cast<frmOptions::DebugPage&>(*The<QWidget>("Frame6").parentWidget()).Sample();
+  }
   // What the samples of the pages show: stretches of the text, cells of the rows, and the picture
   // from its left edge on, at these heights below its axis.
   static QStringList Samples() {
@@ -45,8 +48,7 @@ class OptionsDialogTest : public DialogTest {
                         QString::fromStdString(format.fontName), QString::number(format.fontSize)) +
                (format.bold ? " bold" : "");
     }
-    const auto& page = dynamic_cast<frmOptions::DebugPage&>(*The<QTabWidget>("SSTab").widget(1));
-    const GridTable& rows = page.Sample();
+    const GridTable& rows = SampleRows();
     for (int row = 0; row < rows.Rows(); ++row) {
       for (int column = 0; column <= frmMain::kTextColumn; ++column) {
         const CellFormat& format = rows.Format(row, column);
@@ -211,7 +213,7 @@ TEST_F(OptionsDialogTest, ChangeStoreAndWindowsWithOkAlone) {
   WhenShown([](QWidget*) {
     auto& tabs = The<QTabWidget>("SSTab");
     tabs.setCurrentIndex(1);
-    const auto& sample = dynamic_cast<frmOptions::DebugPage&>(*tabs.widget(1)).Sample();
+    const GridTable& sample = SampleRows();
     for (const int size : {10, 9, 8}) {
       Choose("cmbDebugFontSize", QString::number(size));
       EXPECT_EQ(size, sample.Format(1, 2).FontSize);
@@ -248,6 +250,20 @@ TEST_F(OptionsDialogTest, ChangeStoreAndWindowsWithOkAlone) {
   expected.DebugC2Width = 3500 + 2 * 15;
   EXPECT_TRUE(expected == Settings);
   EXPECT_EQ(expected.EditorFontSize, frmMain::TextEditor().SelFontSize()) << "without a text, too";
+}
+
+TEST_F(OptionsDialogTest, OnAScreenThatIsTooLowThePagesScrollAndTheButtonsStay) {
+  const QFont usual = QApplication::font();
+  QFont large = usual;
+  large.setPointSize(40);
+  QApplication::setFont(large);
+  WhenShown([](QWidget* dialog) {
+    EXPECT_LT(dialog->height(), dialog->screen()->availableGeometry().height());
+    EXPECT_FALSE(The<QWidget>("cmdEditorCancel").visibleRegion().isEmpty());
+    EXPECT_TRUE(The<QWidget>("cmdEditorDefault").visibleRegion().isEmpty());
+  });
+  frmMain::mnuToolsOptions_Click();
+  QApplication::setFont(usual);
 }
 
 }  // namespace

@@ -4,10 +4,12 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QListView>
 #include <QStandardPaths>
 #include <QStyledItemDelegate>
+#include <QTreeView>
 #include <QUrl>
 #include <utility>
 #include <vector>
@@ -38,6 +40,9 @@ QStringList NameFilters(const std::string& filter) {
   }
   return filters;
 }
+
+// Pixels.
+constexpr QSize kDialogSize(800, 500);
 
 struct Place {
   QString name;
@@ -80,6 +85,7 @@ class FileDialog : public QFileDialog {
     setAcceptMode(mode);
     setWindowTitle(mode == AcceptOpen ? "Open" : "Save As");
     ShowPlaces();
+    ShowWholeColumns();
     edit_ = findChild<QLineEdit*>("fileNameEdit");
     // Qt opens a folder whose name is typed.
     connect(edit_, &QLineEdit::textChanged, this, [this] {
@@ -108,6 +114,14 @@ class FileDialog : public QFileDialog {
     auto* sideBar = findChild<QListView*>("sidebar");
     sideBar->setItemDelegate(new PlaceNames(sideBar));
     sideBar->setMinimumWidth(sideBar->sizeHintForColumn(0) + 2 * sideBar->frameWidth());
+  }
+
+  // The names take the room that size, type and date leave.
+  void ShowWholeColumns() {
+    QHeaderView* header = findChild<QTreeView*>("treeView")->header();
+    header->setSectionResizeMode(QHeaderView::ResizeToContents);
+    header->setSectionResizeMode(0, QHeaderView::Stretch);
+    resize(sizeHint().expandedTo(kDialogSize));
   }
 
   std::string Trouble() const {

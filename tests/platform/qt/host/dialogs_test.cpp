@@ -6,12 +6,14 @@
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QListView>
 #include <QMessageBox>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+#include <QTreeView>
 #include <functional>
 #include <gtest/gtest.h>
 #include <vector>
@@ -116,6 +118,11 @@ TEST_F(DialogsTest, SaveStandsInTheFolderOfTheFileAndRefusesEarlyWhatWouldFail) 
     EXPECT_EQ(QUrl::fromLocalFile(QDir::homePath()), dialog->sidebarUrls().constLast());
     EXPECT_EQ("samples", dialog->sidebarUrls().constFirst().fileName());
     EXPECT_GE(places->width(), places->sizeHintForColumn(0));
+    const auto* files = top->findChild<QTreeView*>("treeView");
+    for (int column = 1; column < 4; ++column) {
+      EXPECT_GE(files->columnWidth(column), files->header()->sectionSizeHint(column));
+    }
+    EXPECT_EQ(files->viewport()->width(), files->header()->length());
     enter("sub")(top);
   };
   const auto goIn = [=, this](QWidget* top) {
