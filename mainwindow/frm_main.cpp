@@ -35,6 +35,9 @@ namespace frmMain {
 
 namespace {
 
+// The image list of the grid: its marks by key.
+const char* const imgListDebugWindow = ":/pictures/grid";
+
 void Place(QWidget& widget, const ControlBounds& bounds) {
   // By its edges, so that neighbours meet.
   const QRectF place(bounds.Left, bounds.Top, bounds.Width, bounds.Height);
@@ -115,7 +118,7 @@ void Window::MakeEditor() {
 }
 
 void Window::MakeGrid() {
-  grid_ = new GridView(DebugWindow, ":/pictures/grid", form_);
+  grid_ = new GridView(DebugWindow, imgListDebugWindow, form_);
   grid_->setObjectName("DebugWindow");
   grid_->setAccessibleName("Program rows");
   grid_->Click = DebugWindow_Click;

@@ -28,10 +28,12 @@ namespace {
 
 constexpr bool kCheckable = true;
 
-// An entry without a name is a line.
+// The caption of a line between entries.
+constexpr const char* kSeparator = "-";
+
 struct EntryRow {
-  const char* name = nullptr;
-  const char* caption = "";
+  const char* name;
+  const char* caption = kSeparator;
   const char* shortcut = "";
   Command click = nullptr;
   // Of an entry that isn't that of a command.
@@ -69,15 +71,15 @@ constexpr EntryRow kFileEntries[] = {
      .click = mnuFileSave_Click,
      .command = "Save"},
     {.name = "mnuFileSaveAS", .caption = "Save &As...", .click = mnuFileSaveAS_Click},
-    {},
+    {.name = "mnuFileLine1"},
     {.name = "mnuFilePrint",
      .caption = "&Print...",
      .shortcut = "Ctrl+P",
      .click = mnuFilePrint_Click,
      .command = "Print"},
-    {},
+    {.name = "mnuFileLine2"},
     {.name = kRecentFiles},
-    {},
+    {.name = "mnuFileLine3"},
     {.name = "mnuFileExit", .caption = "E&xit", .click = mnuFileExit_Click},
 };
 
@@ -104,7 +106,7 @@ constexpr EntryRow kViewEntries[] = {
      .click = mnuViewDebugWindow_Click,
      .entry = &mnuViewDebugWindow,
      .checkable = kCheckable},
-    {},
+    {.name = "mnuViewLine1"},
     {.name = "mnuView3DWindow",
      .caption = "&3D Window",
      .shortcut = "F12",
@@ -127,7 +129,7 @@ constexpr EntryRow kRunEntries[] = {
      .shortcut = "F7",
      .click = Command::BesideEdit(mnuRunStop_Click),
      .command = "Stop"},
-    {},
+    {.name = "mnuRunLine1"},
     {.name = "mnuRunStepInto",
      .caption = "St&ep",
      .shortcut = "F8",
@@ -152,7 +154,7 @@ constexpr EntryRow kToolsEntries[] = {
     {.name = "mnuToolsReformatText",
      .caption = "&Reformat Text",
      .click = mnuToolsReformatText_Click},
-    {},
+    {.name = "mnuToolsLine1"},
     {.name = "mnuToolsOptions",
      .caption = "Options...",
      .click = mnuToolsOptions_Click,
@@ -164,7 +166,7 @@ constexpr EntryRow kHelpEntries[] = {
      .caption = "&Contents...",
      .shortcut = "Ctrl+F1",
      .click = Command::BesideEdit(mnuHelpContents_Click)},
-    {},
+    {.name = "mnuHelpLine1"},
     {.name = "mnuHelpAbout",
      .caption = "&About Turnbay...",
      .click = Command::BesideEdit(mnuHelpAbout_Click)},
@@ -198,7 +200,7 @@ static_assert(std::ranges::all_of(kCommands, [](const CommandRow& command) {
   return FindCommand(command.Key) != nullptr;
 }));
 
-QAction* AddEntry(QMenu& menu, const EntryRow& row, Bindings& bindings) {
+void AddEntry(QMenu& menu, const EntryRow& row, Bindings& bindings) {
   QAction* action = menu.addAction(row.caption);
   action->setObjectName(row.name);
   action->setShortcut(QKeySequence(row.shortcut));
@@ -213,7 +215,6 @@ QAction* AddEntry(QMenu& menu, const EntryRow& row, Bindings& bindings) {
   if (row.checkable) {
     bindings.Bind(entry->Checked, [action](bool checked) { action->setChecked(checked); });
   }
-  return action;
 }
 
 // The number is the access key; an ampersand in the file's name is one to be seen.
@@ -239,10 +240,10 @@ void AddRecentFiles(QMenu& menu, Bindings& bindings) {
 
 void AddEntries(QMenu& menu, std::span<const EntryRow> rows, Bindings& bindings) {
   for (const EntryRow& row : rows) {
-    if (row.name == nullptr) {
-      menu.addSeparator();
-    } else if (row.name == kRecentFiles) {
+    if (row.name == kRecentFiles) {
       AddRecentFiles(menu, bindings);
+    } else if (row.caption == kSeparator) {
+      menu.addSeparator()->setObjectName(row.name);
     } else {
       AddEntry(menu, row, bindings);
     }
@@ -270,7 +271,7 @@ QMenu* MakeToolBarMenu(QWidget& owner, Bindings& bindings, std::function<void()>
   auto* menu = new QMenu("ToolBar", &owner);
   menu->setObjectName("mnuToolBar");
   AddEntry(*menu, kShowLabels, bindings);
-  menu->addSeparator();
+  menu->addSeparator()->setObjectName("mnuToolBarLine1");
   QAction* action = menu->addAction("&Customize...");
   action->setObjectName("mnuToolBarCustomize");
   QObject::connect(action, &QAction::triggered, menu, std::move(customize));

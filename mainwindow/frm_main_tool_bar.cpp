@@ -16,6 +16,9 @@ namespace frmMain {
 namespace {
 
 constexpr QSize kPictureSize(16, 16);
+// The image lists; the key of a picture is that of its button.
+const char* const imgListToolBarEnabled = ":/pictures/toolbar/%1.png";
+const char* const imgListToolBarDisabled = ":/pictures/toolbar/%1_disabled.png";
 
 // Each begins a group of buttons.
 constexpr CommandKey kGroups[] = {"Print", "Step", "Options"};
@@ -24,8 +27,8 @@ constexpr CommandKey kGroups[] = {"Print", "Step", "Options"};
 
 QIcon CommandIcon(const QString& key) {
   QIcon icon;
-  icon.addFile(":/pictures/toolbar/" + key + ".png", kPictureSize);
-  icon.addFile(":/pictures/toolbar/" + key + "_disabled.png", kPictureSize, QIcon::Disabled);
+  icon.addFile(QString(imgListToolBarEnabled).arg(key), kPictureSize);
+  icon.addFile(QString(imgListToolBarDisabled).arg(key), kPictureSize, QIcon::Disabled);
   return icon;
 }
 

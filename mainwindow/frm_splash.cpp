@@ -9,6 +9,8 @@
 #include "platform/host/desktop.h"
 #include "platform/host/notifications.h"
 
+namespace frmSplash {
+
 namespace {
 
 constexpr QSize kSize(543, 355);
@@ -55,10 +57,12 @@ class SplashWindow : public FadingWindow {
 
 }  // namespace
 
+}  // namespace frmSplash
+
 namespace Desktop {
 
 void ShowSplash() {
-  auto* splash = new SplashWindow;
+  auto* splash = new frmSplash::SplashWindow;
   splash->exec();
 }
 

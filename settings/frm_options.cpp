@@ -115,7 +115,7 @@ QWidget* OptionsDialog::MakeStrip() {
   column->addWidget(cmdOK_);
   column->addWidget(cmdEditorCancel);
   connect(cmdOK_, &QPushButton::clicked, this, [this] { cmdOK_Click(); });
-  connect(cmdEditorCancel, &QPushButton::clicked, this, &QDialog::reject);
+  connect(cmdEditorCancel, &QPushButton::clicked, this, [this] { cmdEditorCancel_Click(); });
   return strip;
 }
 
@@ -142,6 +142,10 @@ void OptionsDialog::cmdOK_Click() {
   GlobalVariables::LoadSettings();
   frmMain::Tag = "OK";
   accept();
+}
+
+void OptionsDialog::cmdEditorCancel_Click() {
+  reject();
 }
 
 }  // namespace frmOptions

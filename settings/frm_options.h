@@ -25,6 +25,7 @@ class OptionsDialog : public QDialog {
   void LoadOptions();
   void SSTab_Click();
   void cmdOK_Click();
+  void cmdEditorCancel_Click();
 
   GlobalVariables::SettingsRecord working_;
   EditorPage* editor_;

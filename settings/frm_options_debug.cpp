@@ -29,6 +29,9 @@ constexpr NamedColour kColours[] = {
 };
 constexpr int kBreakPointText = 1;
 
+// The image list of the sample: the marks of the main window's grid.
+const char* const imglstDebug = ":/pictures/grid";
+
 constexpr CheckBoxRow kOthers[] = {
     {"chkShowGrid", "Show &Grids", &SettingsRecord::DebugGrid},
     {"chkShowLineNumber", "&Show Line Numbers", &SettingsRecord::DebugLineNumbers},
@@ -123,7 +126,7 @@ QWidget* DebugPage::MakeFormatFrame() {
 QWidget* DebugPage::MakeSampleFrame() {
   QGroupBox* frame = MakeFrame("Frame6", "Sample");
   auto* column = MakeLayout<QVBoxLayout>(frame);
-  debugSample_ = new GridView(sample_, ":/pictures/grid");
+  debugSample_ = new GridView(sample_, imglstDebug);
   debugSample_->setObjectName("DebugSample");
   debugSample_->setAccessibleName("Sample");
   debugSample_->setToolTip("Drag the borders of rows and columns, or press Ctrl and an arrow key");

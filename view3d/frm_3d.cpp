@@ -12,6 +12,8 @@
 #include "platform/qt/views/key_codes.h"
 #include "platform/virtual_keys.h"
 
+namespace frm3D {
+
 namespace {
 
 using VirtualKeys::kNumberPad0;
@@ -191,9 +193,12 @@ void TurnedPartWindow::closeEvent(QCloseEvent* /*event*/) {
   if (!spinLoopRuns_) deleteLater();
 }
 
+}  // namespace frm3D
+
 void Show3DWindow() {
+  using frm3D::loaded;
   if (loaded == nullptr) {
-    loaded = new TurnedPartWindow;
+    loaded = new frm3D::TurnedPartWindow;
     loaded->Form_Load();
     // Closed again, by the end of the program behind a message box.
     if (loaded == nullptr) return;

@@ -8,7 +8,9 @@
 
 #include "view3d/turned_part.h"
 
-// frm3D: the turned part, borderless over the whole screen, turned and zoomed from the keyboard.
+namespace frm3D {
+
+// The turned part, borderless over the whole screen, turned and zoomed from the keyboard.
 class TurnedPartWindow : public QWindow {
  public:
   TurnedPartWindow();
@@ -43,6 +45,8 @@ class TurnedPartWindow : public QWindow {
   // At the previous resize, in pixels of the screen.
   QSize lastSize_{0, 0};
 };
+
+}  // namespace frm3D
 
 // In a library of its own, for OpenGL.
 extern "C" void Show3DWindow();

@@ -105,7 +105,7 @@ class WindowTest : public testing::Test {
   }
   // What the user reads of an entry of a menu or of the tool bar, and whether it is to be had.
   static QString Shown(const QAction& entry) {
-    if (entry.isSeparator()) return "-";
+    if (entry.isSeparator()) return ("- " + entry.objectName()).trimmed();
     if (!entry.isVisible()) return "hidden";
     QStringList words{entry.objectName(), '"' + entry.text() + '"', entry.shortcut().toString()};
     const auto mode = entry.isEnabled() ? QIcon::Normal : QIcon::Disabled;

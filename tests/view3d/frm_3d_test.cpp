@@ -58,7 +58,7 @@ TEST(Frm3DTest, TurnsZoomsAndSpinsByItsKeys) {
   ASSERT_EQ("frm3D", window->objectName());
   ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));
 
-  const TurnedPart& part = static_cast<TurnedPartWindow*>(window.get())->Part();
+  const TurnedPart& part = static_cast<frm3D::TurnedPartWindow*>(window.get())->Part();
   const auto picture = [&] { return window->screen()->grabWindow(window->winId()).toImage(); };
   // What is pressed on the number pad, what RotX, RotY, RotZ and FieldOfView become.
   constexpr std::tuple<const char*, float, float, float, float> kSteps[] = {
