@@ -8,6 +8,7 @@
 #include <QVBoxLayout>
 
 #include "mainwindow/control_surface.h"
+#include "mainwindow/frm_help.h"
 #include "mainwindow/start_up.h"
 #include "platform/qt/host/dialog_owner.h"
 #include "platform/qt/views/picture_strip.h"
@@ -89,6 +90,7 @@ OptionsDialog::OptionsDialog(QWidget* parent)
   cmdOK_->setDefault(true);
   setFixedSize(WholeSize());
 
+  frmMain::OfferHelp(*this);
   LoadWorkingColors();
   LoadOptions();
 }

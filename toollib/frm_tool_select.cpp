@@ -13,6 +13,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "mainwindow/frm_help.h"
 #include "platform/host/desktop.h"
 #include "platform/host/files.h"
 #include "platform/host/pictures.h"
@@ -150,6 +151,7 @@ ToolLibraryDialog::ToolLibraryDialog(QWidget* parent) : QDialog(parent) {
   // Of the dialog, which the button has joined only now.
   cmdAssign_->setDefault(true);
   setFixedSize(sizeHint().expandedTo(kSmallestSize));
+  frmMain::OfferHelp(*this);
   Form_Load();
 }
 

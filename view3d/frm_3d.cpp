@@ -3,11 +3,13 @@
 #include <QCoreApplication>
 #include <QGuiApplication>
 #include <QKeyEvent>
+#include <QKeySequence>
 #include <QScreen>
 #include <algorithm>
 #include <chrono>
 
 #include "mainwindow/control_surface.h"
+#include "mainwindow/frm_help.h"
 #include "platform/host/desktop.h"
 #include "platform/qt/views/key_codes.h"
 #include "platform/virtual_keys.h"
@@ -165,6 +167,10 @@ void TurnedPartWindow::Form_KeyDown(int keyCode) {
 }
 
 void TurnedPartWindow::keyPressEvent(QKeyEvent* event) {
+  if (QKeySequence(event->keyCombination()) == QKeySequence(frmMain::kHelpKey)) {
+    frmMain::mnuHelpContents_Click();
+    return;
+  }
   Form_KeyDown(VirtualKey(*event));
 }
 

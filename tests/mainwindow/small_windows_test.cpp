@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <QDialog>
 #include <QFile>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -8,8 +9,10 @@
 #include <QTemporaryDir>
 #include <QTemporaryFile>
 #include <QTest>
+#include <QTextBrowser>
 #include <csignal>
 #include <gtest/gtest.h>
+#include <set>
 #include <sys/resource.h>
 
 #include "editor/documents.h"
@@ -129,8 +132,13 @@ TEST(SmallWindowsTest, TheProgramEndsBehindAModalNotification) {
   frmMain::ResetToProgramStart();
 }
 
-TEST(SmallWindowsTest, WithoutAViewerTheManualOpensInOneWindow) {
-  qputenv("PATH", "/nowhere");
+TEST(SmallWindowsTest, WithoutAFileForTheViewerTheManualOpensInOneWindow) {
+  const QTemporaryDir folder;
+  QFile viewer(folder.filePath("hh"));
+  EXPECT_TRUE(viewer.open(QIODevice::WriteOnly) && viewer.write("#!/bin/sh") > 0);
+  viewer.setPermissions(QFile::ReadOwner | QFile::ExeOwner);
+  viewer.close();
+  qputenv("PATH", folder.path().toUtf8());
   frmMain::mnuHelpContents_Click();
   frmMain::mnuHelpContents_Click();
   ASSERT_TRUE(QTest::qWaitForWindowActive(Up("frmHelp")));
@@ -210,6 +218,59 @@ TEST(SmallWindowsTest, PrintsToTheFileOfItsDialogOrLeavesItAndTellsWhy) {
     ExpectGolden("listing", Drawn(file.readAll()));
   }
   qunsetenv("TMPDIR");
+}
+
+TEST(SmallWindowsTest, TheManualFindsWordsAndChangesItsSize) {
+  frmMain::mnuHelpContents_Click();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(Up("frmHelp")));
+  auto& pages = *Up("frmHelp")->findChild<QTextBrowser*>("brwHelp");
+  auto& find = *Up("frmHelp")->findChild<QLineEdit*>("txtFind");
+  QTest::keyClick(&pages, Qt::Key_F, Qt::ControlModifier);
+  QTest::keyClicks(&find, "tool");
+  std::set<int> places;
+  for (int i = 0; i < 20; ++i) {
+    EXPECT_EQ("tool", pages.textCursor().selectedText().toLower());
+    places.insert(pages.textCursor().position());
+    QTest::keyClick(&find, Qt::Key_Return);
+  }
+  EXPECT_GT(places.size(), 2U);
+  EXPECT_LT(places.size(), 20U) << "behind the last place comes the first";
+  QTest::keyClicks(&find, "xyz");
+  EXPECT_EQ("Not on this page", find.accessibleDescription());
+  const qreal usual = pages.document()->defaultFont().pointSizeF();
+  const auto size = [&](Qt::Key key) {
+    QTest::keyClick(&find, key, Qt::ControlModifier);
+    return pages.document()->defaultFont().pointSizeF() - usual;
+  };
+  EXPECT_EQ(1, size(Qt::Key_Plus));
+  EXPECT_EQ(2, size(Qt::Key_Equal));
+  EXPECT_EQ(1, size(Qt::Key_Minus));
+  EXPECT_EQ(0, size(Qt::Key_0));
+  Up("frmHelp")->close();
+}
+
+TEST(SmallWindowsTest, TheManualOpensFromDialogsAndIsDarkOnADarkTheme) {
+  const QPalette light = QApplication::palette();
+  for (const bool dark : {false, true}) {
+    QApplication::setPalette(dark ? QPalette(QColor(49, 54, 59)) : light);
+    QDialog dialog;
+    frmMain::OfferHelp(dialog);
+    QTimer::singleShot(0, &dialog, [&] {
+      ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+      QTest::keyClick(&dialog, Qt::Key_F1, Qt::ControlModifier);
+      ASSERT_NE(nullptr, Up("frmHelp"));
+      ASSERT_TRUE(QTest::qWaitForWindowActive(Up("frmHelp")));
+      auto* pages = Up("frmHelp")->findChild<QWidget*>("brwHelp");
+      const QImage page = pages->grab().toImage();
+      EXPECT_EQ(dark ? qRgb(0x1E, 0x23, 0x29) : qRgb(255, 255, 255), page.pixel(3, 3));
+      EXPECT_EQ(dialog.windowHandle(), Up("frmHelp")->windowHandle()->transientParent())
+          << "else the dialog takes its keys";
+      Up("frmHelp")->close();
+      dialog.close();
+    });
+    dialog.exec();
+  }
+  QApplication::setPalette(light);
 }
 
 TEST(SmallWindowsTest, LongLinesGoOnAndOnlyThePagesAskedForAreMade) {
