@@ -1,4 +1,4 @@
-"""Diagrams of the manual: coordinates, arcs, cycles, a tool, the window.
+"""Diagrams of the manual: coordinates, arcs, cycles, a tool.
 
 Coordinates: x to the right, y downwards, pixels of the diagram. Each diagram
 is a function of a cairo context and stands in DIAGRAMS with its size.
@@ -76,12 +76,6 @@ def area(ctx, points, fill=PART, edge=PART_EDGE):
 
 def axis_line(ctx, left, right, y):
     stroke(ctx, [(left, y), (right, y)], QUIET, 1, (14, 4, 3, 4))
-
-
-def place(ctx, name, x, y):
-    """A finished picture at its own size."""
-    ctx.set_source_surface(cairo.ImageSurface.create_from_png(str(name)), x, y)
-    ctx.paint()
 
 
 # --- The language -------------------------------------------------------------
@@ -221,7 +215,7 @@ def draw_pattern(ctx):
     label(ctx, "Q: last row", 112, 92, TEXT, align=1)
 
 
-# --- Tools and the window -----------------------------------------------------
+# --- Tools -------------------------------------------------------------------
 
 def draw_tool(ctx):
     """A tool bitmap, enlarged, on its transparent colour."""
@@ -251,67 +245,10 @@ def draw_tool(ctx):
     label(ctx, "is transparent", left - 16, top + 41, QUIET, align=1)
 
 
-WINDOW_TEXT = (("[STEPPED SHAFT", "#008000"), ("[BILLET X50 Z80", "#008000"),
-               ("N10 G21 G00 X100", "#0000ff"), ("N20 T01 M06", "#0000ff"),
-               ("N30 S800 M03", "#0000ff"), ("N40 M08", "#0000ff"),
-               ("N50 G00 X54 Z-0.5", "#0000ff"),
-               ("N60 G01 X0 F160", "#0000ff"))
-
-
-def callout(ctx, number, x, y):
-    flat(ctx, circle(x, y, 11), MARK)
-    label(ctx, str(number), x, y + 5, "#ffffff", align=0.5, bold=True)
-
-
-def draw_window(ctx):
-    """The main window in outline, its areas numbered."""
-    area(ctx, box(1, 1, 559, 359), "#f0f0f0", QUIET)
-    flat(ctx, box(1, 1, 559, 24), "#38475a")
-    place(ctx, PICTURES / "icon" / "turnbay_16.png", 7, 4)
-    label(ctx, "Orvane's Turnbay", 30, 17, "#ffffff")
-    for x, menu in ((12, "File"), (50, "View"), (93, "Run"), (132, "Tools"),
-                    (180, "Help")):
-        label(ctx, menu, x, 40)
-    x = 12
-    for name in ("New", "Open", "Save", "", "Print", "", "Step", "Start",
-                 "Pause", "Stop", "", "Options"):
-        if name:
-            place(ctx, PICTURES / "toolbar" / f"{name}.png", x + 8, 50)
-            label(ctx, name, x + 16, 78, size=9, align=0.5)
-            x += 34
-        else:
-            stroke(ctx, [(x + 4.5, 50), (x + 4.5, 78)], "#c4cad1", 1)
-            x += 9
-    area(ctx, box(2, 84, 130, 334), "#ffffff", "#c4cad1")
-    for i, (text, colour) in enumerate(WINDOW_TEXT):
-        label(ctx, text, 8, 102 + 16 * i, colour, size=10.5)
-    area(ctx, box(130, 84, 558, 334), "#ffffff", "#c4cad1")
-    ctx.save()
-    ctx.rectangle(131, 85, 426, 248)
-    ctx.clip()
-    ctx.translate(131, 70)
-    ctx.scale(0.89, 0.89)
-    place(ctx, PICTURES.parent / "help" / "pictures" / "stepped_shaft.png",
-          0, 0)
-    ctx.restore()
-    for x, text in ((8, "stepped_shaft.cnc"), (124, "Feed: 160"), (196, "mm"),
-                    (228, "S 800"), (274, "CW"), (304, "Coolant: ON")):
-        label(ctx, text, x, 351, size=10.5)
-    flat(ctx, box(382, 343, 442, 352), "#d6dbe1")
-    flat(ctx, box(382, 343, 412, 352), "#5cc152")
-    stroke(ctx, [(452, 347.5), (492, 347.5)], QUIET, 2)
-    flat(ctx, box(470, 341, 475, 354), "#2f63b0")
-    label(ctx, "X 54.0  Z -0.5", 500, 351, size=9.5)
-    for number, x, y in ((1, 262, 36), (2, 404, 66), (3, 66, 290),
-                         (4, 430, 118), (5, 364, 322)):
-        callout(ctx, number, x, y)
-
-
 DIAGRAMS = {
     "coordinates": (draw_coordinates, 530, 268),
     "arcs": (draw_arcs, 560, 226),
     "cycles": (draw_cycles, 560, 210),
     "pattern": (draw_pattern, 560, 210),
     "tool": (draw_tool, 470, 330),
-    "window": (draw_window, 560, 360),
 }
