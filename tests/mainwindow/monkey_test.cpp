@@ -60,6 +60,9 @@ class MonkeyTest : public testing::Test {
   ~MonkeyTest() override {
     window.reset();
     frmMain::ResetToProgramStart();
+    // An end that was asked for outside exec() would end the next dialog.
+    QTimer::singleShot(0, qApp, QApplication::quit);
+    QApplication::exec();
   }
 
   int Below(std::size_t limit) { return static_cast<int>(random() % limit); }
@@ -129,8 +132,8 @@ class MonkeyTest : public testing::Test {
   }
 
   void Step() {
-    // First, so that the events go on inside of dialogs and runs.
-    QTimer::singleShot(0, qApp, [this] { Step(); });
+    // First, so that the events go on inside of dialogs and runs; with the window they end.
+    QTimer::singleShot(0, window.get(), [this] { Step(); });
     const bool canPause = frmMain::Toolbar.Buttons("Pause").Enabled;
     EXPECT_TRUE(frmMain::Toolbar.Buttons("Stop").Enabled || !canPause) << "neither idle nor a run";
     if (left > 0) {
