@@ -41,7 +41,8 @@ int main(int argc, char** argv) {
   const auto application = MakeApplication(argc, argv);
   QApplication::setApplicationName("turnbay");
   QApplication::setApplicationVersion(TURNBAY_VERSION);
-  QApplication::setWindowIcon(ProgramIcon());
+  // With the first window, which doesn't wait for its pictures.
+  QTimer::singleShot(0, qApp, [] { QApplication::setWindowIcon(ProgramIcon()); });
   // Under Wayland the icon comes from the desktop entry.
   QApplication::setDesktopFileName("turnbay");
   if (!UseUsersApplicationFolder()) {
