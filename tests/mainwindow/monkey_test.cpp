@@ -60,6 +60,7 @@ class MonkeyTest : public testing::Test {
   ~MonkeyTest() override {
     window.reset();
     frmMain::ResetToProgramStart();
+    qputenv("HOME", usersHome);
     // An end that was asked for outside exec() would end the next dialog.
     QTimer::singleShot(0, qApp, QApplication::quit);
     QApplication::exec();
@@ -149,6 +150,7 @@ class MonkeyTest : public testing::Test {
     }
   }
 
+  const QByteArray usersHome = qgetenv("HOME");
   QTemporaryDir folder;
   std::unique_ptr<frmMain::Window> window;
   std::mt19937 random{1};
