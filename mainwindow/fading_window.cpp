@@ -57,10 +57,11 @@ void FadingWindow::FadeIn() {
 
 void FadingWindow::FadeOut() {
   Timer1.stop();
-  if (HasWindowOpacity()) {
-    Timer2.start();
-  } else {
+  if (!HasWindowOpacity()) {
     close();
+  } else if (!Timer2.isActive()) {
+    // A start anew would put the next step off, for as long as keys come faster than steps.
+    Timer2.start();
   }
 }
 
