@@ -35,17 +35,17 @@ TEST_F(RunDriverTest, WhatHasNoYieldOfItsOwnYieldsByTheClock) {
       {{"[BILLET X40 Z60", "G00 X36 Z0", "G90 X30 Z-50"}, frmMain::mnuRunRunToBreakpoint_Click},
       {{"[BILLET X40 Z60", "G73 U0 W0 R90", "G73 P10 Q20", "N10 G04 M25", "N20 S1"},
        frmMain::mnuRunStart_Click}};
-  for (const auto& [rows, start] : cases) {
+  for (const auto& run : cases) {
     // Returns how often the run yields, when the clock goes on by 10 ms with each point or row.
-    const auto play = [&, start = start](int stepTime) {
-      Load(rows);
+    const auto play = [&](int stepTime) {
+      Load(run.rows);
       Fakes::EachStepTakes(stepTime);
       GCodes::PointsPlayed = 0;
       const int before = Fakes::Yields();
-      start();
+      run.start();
       return Fakes::Yields() - before;
     };
-    const auto ownYields = static_cast<int>(2 * rows.size() - 1);
+    const auto ownYields = static_cast<int>(2 * run.rows.size() - 1);
     EXPECT_EQ(ownYields, play(0));
     const auto steps = GCodes::PointsPlayed;
     const std::vector<Colour> picture = Pixels();
