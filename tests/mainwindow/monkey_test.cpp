@@ -66,10 +66,10 @@ class MonkeyTest : public testing::Test {
     QApplication::exec();
   }
 
-  int Below(std::size_t limit) { return static_cast<int>(random() % limit); }
+  int Below(int limit) { return static_cast<int>(random() % static_cast<unsigned>(limit)); }
   template <class T>
   auto& AnyOf(T& choices) {
-    return choices[Below(std::size(choices))];
+    return choices[Below(static_cast<int>(std::size(choices)))];
   }
 
   // The window that takes the user's events.
@@ -94,7 +94,7 @@ class MonkeyTest : public testing::Test {
       if (child->isVisible() && child->isEnabled()) widgets += child;
     }
     const QPointer<QWidget> target = AnyOf(widgets);
-    const QPoint place(Below(target->width() + 1U), Below(target->height() + 1U));
+    const QPoint place(Below(target->width() + 1), Below(target->height() + 1));
     const auto button = Below(8) == 0 ? Qt::RightButton : Qt::LeftButton;
     if (Below(6) == 0) QTest::mouseDClick(target, button, {}, place);
     if (target) QTest::mousePress(target, button, {}, place);
