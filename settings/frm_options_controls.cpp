@@ -82,6 +82,8 @@ void AddRow(QFormLayout& form, const char* labelName, const QString& caption, QW
   auto* label = new QLabel(caption);
   label->setObjectName(labelName);
   label->setBuddy(control);
+  // A list would be called by what is chosen in it.
+  control->setAccessibleName(caption);
   auto* row = new QHBoxLayout;
   row->addWidget(control);
   if (atEnd != nullptr) row->addWidget(atEnd);

@@ -71,6 +71,7 @@ QLabel* MakeHeading(const char* name, const QString& caption, QWidget* buddy) {
   auto* label = new QLabel(caption);
   label->setObjectName(name);
   label->setBuddy(buddy);
+  if (buddy != nullptr) buddy->setAccessibleName(QString(caption).remove('&'));
   label->setAlignment(Qt::AlignTop);
   return label;
 }
