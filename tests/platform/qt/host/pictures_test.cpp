@@ -13,7 +13,7 @@ using PicturesTest = TemporaryFolderTest;
 
 std::string LittleEndian(std::int32_t value, int bytes) {
   std::string text;
-  for (int i = 0; i < bytes; ++i) text += static_cast<char>(value >> (8 * i) & 0xFF);
+  for (; bytes > 0; --bytes, value >>= 8) text += static_cast<char>(value & 0xFF);
   return text;
 }
 
