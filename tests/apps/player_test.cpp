@@ -65,12 +65,12 @@ TEST_F(PlayerTest, WhatIsNoOrdinaryFileIsRefusedAtOnce) {
     Put("p.cnc", "[BILLET X4 Z2\nT3 M06");
     Put("ToolList.ini", "3=t.bmp");
     Put("t.ini", "TOOLWIDTH=9\nTOOLHEIGHT=9");
-    std::filesystem::remove(Path(pipe.c_str()));
-    ASSERT_EQ(0, mkfifo(Path(pipe.c_str()).c_str(), 0600));
+    std::filesystem::remove(Path(pipe));
+    ASSERT_EQ(0, mkfifo(Path(pipe).c_str(), 0600));
     EXPECT_EQ(pipe == "p.cnc" ? 2 : 0, Run({"--tools", ".", "p.cnc"}));
     EXPECT_TRUE(err_.contains((pipe + "\" can't be read: it is no ordinary file.").c_str()))
         << err_.toStdString();
-    std::filesystem::remove(Path(pipe.c_str()));
+    std::filesystem::remove(Path(pipe));
   }
 }
 

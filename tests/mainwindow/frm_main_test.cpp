@@ -538,7 +538,7 @@ TEST_F(WindowTest, ATextThatWasLeftIsOfferedOnTheWindowAndKeptOnFromThere) {
   left.close();
   const auto read = [&left] {
     EXPECT_TRUE(left.open(QIODevice::ReadOnly));
-    const QByteArray all = left.readAll();
+    QByteArray all = left.readAll();
     left.close();
     return all;
   };

@@ -12,8 +12,6 @@
 
 namespace {
 
-using testing::HasSubstr;
-
 class SettingsStoreTest : public TemporaryFolderTest {
  protected:
   void SetUp() override {
