@@ -5,6 +5,7 @@
 #include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QValidator>
+#include <QWheelEvent>
 #include <algorithm>
 #include <cmath>
 
@@ -47,7 +48,7 @@ void TellRefusedPaste(const RefusedCharacter& refused) {
       qApp, [reason = text.toStdString()] { Desktop::ShowError(reason); }, Qt::QueuedConnection);
 }
 
-RowEditBox::RowEditBox(QAbstractScrollArea* grid) : QLineEdit(grid), grid_(grid) {
+RowEditBox::RowEditBox(QAbstractScrollArea* grid) : QLineEdit(grid->parentWidget()), grid_(grid) {
   setObjectName("txtDebug");
   setAccessibleName("Text of the row");
   auto* validator = new CodePageValidator(this);
@@ -69,6 +70,7 @@ RowEditBox::RowEditBox(QAbstractScrollArea* grid) : QLineEdit(grid), grid_(grid)
   bindings_.Bind(txtDebug.FontSize, [this](int) { ShowFont(); });
   bindings_.Bind(txtDebug.Bounds, [this](const ControlBounds&) { Place(); });
   connect(grid->horizontalScrollBar(), &QScrollBar::valueChanged, this, [this] { Place(); });
+  grid->installEventFilter(this);
   grid->viewport()->installEventFilter(this);
   bindings_.Bind(txtDebug.Visible, [this](bool visible) { Appear(visible); });
   connect(this, &QLineEdit::textChanged, this, [](const QString& text) {
@@ -90,9 +92,15 @@ void RowEditBox::keyReleaseEvent(QKeyEvent* event) {
   }
 }
 
-bool RowEditBox::eventFilter(QObject* viewport, QEvent* event) {
-  if (event->type() == QEvent::Resize) Place();
-  return QLineEdit::eventFilter(viewport, event);
+bool RowEditBox::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::Resize || event->type() == QEvent::Move) Place();
+  if (event->type() == QEvent::Hide) hide();
+  return QLineEdit::eventFilter(watched, event);
+}
+
+// The rows scroll under the pointer wherever it is.
+void RowEditBox::wheelEvent(QWheelEvent* event) {
+  QApplication::sendEvent(grid_->viewport(), event);
 }
 
 void RowEditBox::focusOutEvent(QFocusEvent* event) {
@@ -110,24 +118,23 @@ void RowEditBox::ShowFont() {
   setFont(shown);
 }
 
-// Beside the scroll bar and the line numbers, as far as the row is in view.
+// Beside the scroll bar and the line numbers, as far as the row is in view. A row out of view
+// leaves the box with the focus and without a size.
 void RowEditBox::Place() {
   const ControlBounds& bounds = txtDebug.Bounds;
   const ControlBounds& outer = DebugWindow.Bounds;
-  QRect place =
-      QRectF(bounds.Left - outer.Left, bounds.Top - outer.Top, bounds.Width, bounds.Height)
-          .toRect();
-  const QRect cells = grid_->viewport()->geometry();
-  place.setLeft(std::max(place.left() - grid_->horizontalScrollBar()->value(), cells.left()));
-  place.setRight(std::min(place.right(), cells.right()));
-  setGeometry(place);
+  const QRectF place(bounds.Left - outer.Left - grid_->horizontalScrollBar()->value(),
+                     bounds.Top - outer.Top, bounds.Width, bounds.Height);
+  QRect inGrid = place.toRect();
+  inGrid.setRight(grid_->width());
+  setGeometry(inGrid.intersected(grid_->viewport()->geometry()).translated(grid_->pos()));
 }
 
 void RowEditBox::Appear(bool visible) {
   pressed_ = false;
   if (!visible) {
     // The grid gets the focus: the keyboard stays where the user works.
-    if (hasFocus()) parentWidget()->setFocus();
+    if (hasFocus()) grid_->setFocus();
     hide();
     return;
   }

@@ -11,8 +11,9 @@ namespace frmMain {
 // Tells the user, behind the event that is handled, which character kept a text from being pasted.
 void TellRefusedPaste(const RefusedCharacter& refused);
 
-// txtDebug on the screen. A child of the grid, so that it goes out of view with its row. A
-// character that the code page lacks can't be typed.
+// txtDebug on the screen, over the grid and as large as the part of its row that is in view. Beside
+// the grid, not in it: accessibility knows a grid's cells alone. A character that the code page
+// lacks can't be typed.
 class RowEditBox : public QLineEdit {
  public:
   explicit RowEditBox(QAbstractScrollArea* grid);
@@ -20,7 +21,8 @@ class RowEditBox : public QLineEdit {
  protected:
   void keyPressEvent(QKeyEvent* event) override;
   void keyReleaseEvent(QKeyEvent* event) override;
-  bool eventFilter(QObject* viewport, QEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
 
  private:

@@ -79,11 +79,11 @@ class Desktop:
         os.close(writes)
         with os.fdopen(reads) as number:
             self.name = ":" + number.readline().strip()
-        os.environ["DISPLAY"] = self.name
         self.display = display.Display(self.name)
         self.root = self.display.screen().root
-        self._start("openbox", "--sm-disable")
-        self._start("picom", "--backend", "xrender", "--no-vsync", "--config", "/dev/null")
+        self._start("openbox", "--sm-disable", env=os.environ | {"DISPLAY": self.name})
+        self._start("picom", "--backend", "xrender", "--no-vsync", "--config", "/dev/null",
+                    env=os.environ | {"DISPLAY": self.name})
         wait_for(lambda: self._property("_NET_SUPPORTING_WM_CHECK"), "the window manager")
         compositor = self.display.intern_atom("_NET_WM_CM_S0")
         wait_for(lambda: self.display.get_selection_owner(compositor) != X.NONE, "the compositor")

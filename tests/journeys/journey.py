@@ -1,5 +1,6 @@
 """What all journeys share: one desktop, and a program in a home of its own for each."""
 import atexit
+import os
 import pathlib
 import tempfile
 import unittest
@@ -23,8 +24,13 @@ def the_desktop():
 
 class Journey(unittest.TestCase):
     def setUp(self):
-        self.desktop = the_desktop()
+        self.use(the_desktop())
         self.desktop.move(0, 0)
+
+    def use(self, desktop):
+        """What is started or asked from now on is on this desktop."""
+        self.desktop = desktop
+        os.environ["DISPLAY"] = desktop.name
 
     def new_home(self):
         return pathlib.Path(tempfile.mkdtemp(dir=self.desktop.folder))
@@ -109,4 +115,4 @@ class Journey(unittest.TestCase):
         self.desktop.key(key)
 
 
-__all__ = ["BUILD", "ROOT", "NO_SPLASH", "TITLE", "Journey", "has", "keep_screen", "middle", "place", "wait_for"]
+__all__ = ["BUILD", "ROOT", "Desktop", "NO_SPLASH", "TITLE", "Journey", "has", "keep_screen", "middle", "place", "wait_for"]

@@ -3,7 +3,7 @@ row edited in a pause; a slip found and mended."""
 import subprocess
 import unittest
 
-from journey import BUILD, TITLE, Journey, keep_screen, place, wait_for
+from journey import BUILD, TITLE, Journey, has, keep_screen, place, wait_for
 
 WHITE = (255, 255, 255)
 PART = ("[BILLET X20 Z40", "M03 S800", "G00 X16 Z2", "G01 Z-20 F100", "G00 X30", "M30")
@@ -76,7 +76,9 @@ class RunJourney(Journey):
         # The next row: that of the break point has been read.
         middle = top + 3 * row + row // 2
         self.desktop.click(left + 100, middle, times=2)
-        # The box reaches beyond the cells, nearly to the edge of the grid.
+        box = self.program.find("text", "Text of the row")
+        wait_for(lambda: has(box, "FOCUSED"), "the row's edit box to have the keyboard")
+        # It reaches beyond the cells, nearly to the edge of the grid.
         wait_for(lambda: self.desktop.pixel(left + width - 12, middle) == WHITE,
                  "the row's edit box")
         self.desktop.key("End", "BackSpace")

@@ -1,7 +1,7 @@
 """What the windows look like at rest: splash, About, notifications, 3D; scaled and dark."""
 import unittest
 
-from journey import NO_SPLASH, ROOT, TITLE, Journey, keep_screen, place, wait_for
+from journey import NO_SPLASH, ROOT, TITLE, Desktop, Journey, keep_screen, place, wait_for
 
 SPLASH = (543, 355)  # Pixels.
 DARK_SIMULATION = NO_SPLASH + "[SimulationWindow]\nBackColor=3158064\n"
@@ -95,6 +95,30 @@ class WindowsJourney(Journey):
                 bar = place(self.program.find("tool bar", "Tool bar"))
                 ground = self.desktop.pixel(self.desktop.size[0] - 4, bar[1] + 4)
                 self.assertEqual(name == "dark", sum(ground) < 300, ground)
+                self.program.kill()
+
+    def test_small_and_large_screen(self):
+        """The window fills the screen, the section is in sight, and Options has its buttons there."""
+        for size in ((640, 450), (2560, 1600)):
+            with self.subTest(size):
+                desktop = Desktop(size)
+                self.addCleanup(desktop.close)
+                self.use(desktop)
+                self.start()
+                left, top, width, height = self.area
+                self.assertGreater(left + width, size[0] - 8)
+                self.assertGreater(height, size[1] // 2)
+                self.assertLess(top + height, size[1])
+                self.choose("t", "Options...")
+                options = self.program.window("Options")
+                for name in ("OK", "Cancel"):
+                    left, top, width, height = place(self.program.find("push button", name, options))
+                    self.assertTrue(0 <= left < left + width <= size[0], name)
+                    self.assertTrue(0 <= top < top + height <= size[1], name)
+                keep_screen(f"options{size[0]}")
+                self.desktop.click(left + width // 2, top + height // 2)
+                self.program.window(TITLE)
+                keep_screen(f"size{size[0]}")
                 self.program.kill()
 
 

@@ -441,7 +441,8 @@ TEST_F(WindowTest, ARowTakesPastedLinesAsOneAndIsFollowedByItsEdit) {
   const auto liesOver = [&](int row) {
     auto& rows = The<QTableView>("DebugWindow");
     const QRect cell = rows.visualRect(rows.model()->index(row, 2));
-    return cell.translated(rows.viewport()->pos()).contains(box.geometry().center());
+    return cell.contains(
+        rows.viewport()->mapFrom(window.get(), box.mapTo(window.get(), box.rect().center())));
   };
   DoubleClickRow(1);
   EXPECT_TRUE(liesOver(1));
@@ -459,8 +460,9 @@ TEST_F(WindowTest, ARowTakesPastedLinesAsOneAndIsFollowedByItsEdit) {
   auto& rows = The<QTableView>("DebugWindow");
   rows.setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
   rows.horizontalScrollBar()->setValue(7);
-  EXPECT_EQ(rows.viewport()->geometry().right(), box.geometry().right());
-  EXPECT_EQ(rows.viewport()->x() + rows.columnViewportPosition(2), box.x());
+  const QRect cells = rows.viewport()->geometry().translated(rows.pos());
+  EXPECT_EQ(cells.right(), box.geometry().right());
+  EXPECT_EQ(cells.x() + rows.columnViewportPosition(2), box.x());
   QApplication::clipboard()->setText("G01\n\u2192");
   QTest::keyClick(&box, Qt::Key_V, Qt::ControlModifier);
   EXPECT_EQ("G01 X10 Z-5", box.text());
