@@ -66,8 +66,6 @@ RowEditBox::RowEditBox(QAbstractScrollArea* grid) : QLineEdit(grid->parentWidget
     const QString shown = QString::fromStdString(CodePageToUtf8(text));
     if (shown != this->text()) setText(shown);
   });
-  bindings_.Bind(txtDebug.FontName, [this](const std::string&) { ShowFont(); });
-  bindings_.Bind(txtDebug.FontSize, [this](int) { ShowFont(); });
   bindings_.Bind(txtDebug.Bounds, [this](const ControlBounds&) { Place(); });
   connect(grid->horizontalScrollBar(), &QScrollBar::valueChanged, this, [this] { Place(); });
   grid->installEventFilter(this);
@@ -138,6 +136,7 @@ void RowEditBox::Appear(bool visible) {
     hide();
     return;
   }
+  ShowFont();
   show();
   raise();
   setFocus();

@@ -42,6 +42,7 @@ ToolBarView::ToolBarView(QWidget* parent) : QToolBar(parent) {
     if (std::ranges::any_of(kGroups, begins)) addSeparator();
     AddButton(button);
   }
+  MeasureHeight();
   menu_ = MakeToolBarMenu(*this, bindings_, [this] { LayOutToolBar(*this); });
   setContextMenuPolicy(Qt::CustomContextMenu);
   connect(this, &QWidget::customContextMenuRequested, this, &ToolBarView::ShowMenu);
@@ -76,7 +77,13 @@ void ToolBarView::actionEvent(QActionEvent* event) {
 // All buttons have labels or none has one.
 void ToolBarView::ShowCaption(QAction& action, const std::string& caption) {
   action.setIconText(QString::fromStdString(caption));
-  setToolButtonStyle(caption.empty() ? Qt::ToolButtonIconOnly : Qt::ToolButtonTextUnderIcon);
+  const auto style = caption.empty() ? Qt::ToolButtonIconOnly : Qt::ToolButtonTextUnderIcon;
+  if (style == toolButtonStyle()) return;
+  setToolButtonStyle(style);
+  MeasureHeight();
+}
+
+void ToolBarView::MeasureHeight() {
   ControlBounds bounds = Toolbar.Bounds;
   bounds.Height = sizeHint().height();
   Toolbar.Bounds = bounds;

@@ -27,6 +27,7 @@ class ToolBarView : public QToolBar {
  private:
   void AddButton(ToolButton& button);
   void ShowCaption(QAction& action, const std::string& caption);
+  void MeasureHeight();
   void ShowMenu(const QPoint& place);
 
   Bindings bindings_;

@@ -194,7 +194,6 @@ GridView::GridView(GridTable& table, const QString& pictureFolder, QWidget* pare
     table_.MouseCol = 0;
     if (DblClick) DblClick();
   });
-  ApplyLayout();
 }
 
 GridView::~GridView() {
@@ -287,6 +286,7 @@ void GridView::mouseReleaseEvent(QMouseEvent* /*event*/) {}
 
 void GridView::showEvent(QShowEvent* event) {
   QTableView::showEvent(event);
+  ApplyFont();
   ApplyTopRow();
 }
 
@@ -338,12 +338,16 @@ void GridView::ApplyLayout() {
     horizontalHeader()->setFixedHeight(Pixels(table_.RowHeight(0)));
     setRowHidden(0, true);
   }
-  if (!table_.FontName().empty()) {
-    QFont own = font();
-    own.setFamilies({QString::fromStdString(table_.FontName())});
-    setFont(own);
-  }
+  if (isVisible()) ApplyFont();
   ApplyTopRow();
+}
+
+// To look a font up takes long: a grid that is hidden at the start does without.
+void GridView::ApplyFont() {
+  if (table_.FontName().empty()) return;
+  QFont own = font();
+  own.setFamilies({QString::fromStdString(table_.FontName())});
+  setFont(own);
 }
 
 // A hidden grid doesn't know how far it can be scrolled, so it takes no part in it.

@@ -45,6 +45,7 @@ class GridView : public QTableView {
  private:
   void FollowTable(const GridChange& change);
   void ApplyLayout();
+  void ApplyFont();
   void ApplyTopRow();
   void AlignTopRow();
   void TellMouseCell(const QPoint& place);
