@@ -7,7 +7,7 @@ Needs: Python 3 with python3-cairo and the font Lato (Debian: apt-get install
 
 toolbar/  icons of the tool bar, 16 by 16, enabled and disabled
 grid/     marks of the program grid, 19 by 18, opaque
-icon/     the application icon in its sizes, the small ones drawn simpler
+icon/     the application icon in its sizes, the small ones drawn simpler, and scalable
 splash.png, 544 by 355; the program writes its version, in a light colour, into
           the dark area at the lower left, below the name
 options.png, tool_library.png
@@ -83,6 +83,9 @@ def make_application_icon():
             ctx.scale(size / drawn, size / drawn)
             draw(ctx)
             write(surface, f"icon/turnbay_{size}.png")
+    # For desktops that ask for any size.
+    with cairo.SVGSurface(str(PICTURES / "icon/turnbay.svg"), 256, 256) as scalable:
+        draw_large_icon(cairo.Context(scalable))
 
 
 def check_font():
