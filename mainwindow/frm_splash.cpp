@@ -14,13 +14,16 @@ namespace frmSplash {
 namespace {
 
 constexpr QSize kSize(543, 355);
-// Left end and base line of the version, in pixels.
-constexpr QPoint kVersionPlace(32, 332);
-constexpr int kVersionSize = 13;
-constexpr QColor kVersionColour(0xC9, 0xD3, 0xDE);
+// Left end and base lines of the small print, and its size, in pixels.
+constexpr int kLeft = 32;
+constexpr int kVersionLine = 321;
+constexpr int kAddressLine = 341;
+constexpr int kTextSize = 13;
+constexpr QColor kTextColour(0xC9, 0xD3, 0xDE);
+constexpr const char* kAddress = "Faults and wishes: " TURNBAY_HOMEPAGE;
 constexpr const char* kHint = "Click or press Esc to begin";
 
-// The picture of the program with its version.
+// The picture of the program with its version, licence and address.
 class SplashWindow : public FadingWindow {
  public:
   SplashWindow() : FadingWindow("frmSplash", Qt::Dialog, kSize) {
@@ -42,13 +45,15 @@ class SplashWindow : public FadingWindow {
     QPainter painter(this);
     painter.drawPixmap(0, 0, picture_);
     QFont font = painter.font();
-    font.setPixelSize(kVersionSize);
+    font.setPixelSize(kTextSize);
     painter.setFont(font);
-    painter.setPen(kVersionColour);
-    painter.drawText(kVersionPlace, "Version " + QApplication::applicationVersion());
-    // As far from the right edge as the version is from the left one.
+    painter.setPen(kTextColour);
+    painter.drawText(kLeft, kVersionLine,
+                     "Version " + QApplication::applicationVersion() + ", MIT licence");
+    painter.drawText(kLeft, kAddressLine, kAddress);
+    // As far from the right edge as the others are from the left one.
     const int hintWidth = painter.fontMetrics().horizontalAdvance(kHint);
-    painter.drawText(width() - kVersionPlace.x() - hintWidth, kVersionPlace.y(), kHint);
+    painter.drawText(width() - kLeft - hintWidth, kVersionLine, kHint);
   }
 
  private:
