@@ -10,6 +10,7 @@ fine finishing pass. Lengths in mm; R is a radius, X a diameter.
 """
 
 import math
+import textwrap
 from pathlib import Path
 
 BILLET_X, BILLET_Z = 50, 80
@@ -21,6 +22,7 @@ END = KNOTS[-1][0]
 ROUGH_DISTANCES = (13, 11.5, 10, 8.5, 7, 5.5, 4, 2.5, 1, 0.4)
 ROUGH_STEP, FINE_STEP = 0.5, 0.2
 CLEAR_R = BILLET_X / 2 + 1  # where the tool passes over the billet
+PANE = 36  # characters of a row that the editor shows
 MAX_CHARACTERS = 32_766  # the most that the editor takes
 
 
@@ -54,7 +56,7 @@ class Program:
         self.number = 0
 
     def comment(self, text):
-        self.rows.append("[" + text)
+        self.rows += ["[" + row for row in textwrap.wrap(text, PANE - 1)]
 
     def block(self, text):
         self.number += 10
@@ -83,20 +85,20 @@ def main():
     program.comment("Programs of this length come from a drawing program")
     program.comment("Each block is a short straight cut. G01 is modal: rows with"
                     " only X and Z go on cutting")
-    program.block("G21 G00 X100 Z50")
-    program.block("T02 M06 [Tool 2, finishing. Its slim insert follows the hollows")
+    program.block(f"G21 G00 X{BILLET_X + 4} Z10")
+    program.comment("Tool 2, finishing. Its slim insert follows the hollows")
+    program.block("T02 M06")
     program.block("S1200 M03")
     program.block("M08")
     program.block(f"G00 X{BILLET_X + 4} Z2")
     passes = len(ROUGH_DISTANCES)
     for number, distance in enumerate(ROUGH_DISTANCES, 1):
-        program.comment(f"Pass {number} of {passes}: {distance:g} mm outside of"
-                        " the contour")
+        program.comment(f"Pass {number} of {passes}: {distance:g} mm outside")
         program.cut(contour(distance, ROUGH_STEP), 200)
     program.comment("Finishing pass in finer steps")
     program.block("S1600 M03")
     program.cut(contour(0, FINE_STEP), 100)
-    program.block("G28 U0 W0 [Home, straight from here")
+    program.block("G28 U0 W0 [Home from here")
     program.block("M09")
     program.block("M05")
     program.block("M30")

@@ -1,10 +1,12 @@
-[CHESS PAWN: 57 mm high, turned with its head to the right
+[CHESS PAWN: 57 mm high, turned
+[with its head to the right
 [BILLET X36 Z75
-N10 G21 G00 X100 Z50
+N10 G21 G00 X40 Z10
 N20 T01 M06 [Tool 1, roughing
 N30 S1000 M03
 N40 M08
-[Rough the outline with the turning cycle, from the base to the head
+[Rough the outline with the turning
+[cycle, from the base to the head
 N50 G00 X40 Z2
 N60 G90 X34.6 Z-62 F200
 N70 X31.5 Z-47.6
@@ -15,15 +17,22 @@ N110 X23.4 Z-41.9
 N120 X21.8 Z-40.4
 N130 X18.8 Z-15.6
 N140 X16.2 Z-15.4
-[The front of the head, outside of its ball
+[The front of the head,
+[outside of its ball
 N150 X13 Z-3.2
 N160 X9 Z-1.3
 N170 X5 Z-0.3
-N180 G00 X100 Z50
-N190 T02 M06 [Tool 2, finishing. It can fall by up to 50 degrees
+N180 G00 X40 Z10
+[Tool 2, finishing. It can
+[fall by up to 50 degrees
+N190 T02 M06
 N200 S1600 M03
-[Rough the neck and the hollow of the body as staircases. A cut along X and Z at
-[once would do as well, but then the 3D view shows a straight taper there
+[Rough the neck and the hollow
+[of the body as staircases. A
+[cut along X and Z at
+[once would do as well, but
+[then the 3D view shows a
+[straight taper there
 N210 G00 X20 Z-10.5
 N220 G01 X14.8 F150
 N230 G01 Z-12
@@ -52,23 +61,34 @@ N450 G00 Z2
 [Finish from the head down
 N460 G00 X0
 N470 G01 Z0 F120
-N480 G03 X12 Z-12 R7.5 [The head is a ball of radius 7.5
+[The head is a ball of radius 7.5
+N480 G03 X12 Z-12 R7.5
 N490 G02 X16 Z-16 R2.5 [The neck
 N500 G01 X19
-N510 G03 X21 Z-17 R1 [The collar, with a round edge
+[The collar, with a round edge
+N510 G03 X21 Z-17 R1
 N520 G01 Z-18
-N530 G01 X12 Z-22.5 [Its back falls by 45 degrees
-N540 G01 Z-23 [A short straight cut, so that the body is an arc in 3D too
-N550 G02 X28 Z-47 R40 [The body flows out to the base
+[Its back falls by 45 degrees
+N530 G01 X12 Z-22.5
+[A short straight cut, so that
+[the body is an arc in 3D too
+N540 G01 Z-23
+[The body flows out to the base
+N550 G02 X28 Z-47 R40
 N560 G01 Z-48
-N570 G03 X34 Z-51 R3 [Round edge of the base
+[Round edge of the base
+N570 G03 X34 Z-51 R3
 N580 G01 Z-56
-N590 G01 X30 Z-58 [Chamfer below the base
+[Chamfer below the base
+N590 G01 X30 Z-58
 N600 G01 Z-60
 N610 G01 X38
-N620 G00 X100 Z50
-[Part off: the blade cuts from Z-59.5 to Z-57
-[The 3D view shows this cut only as wide as its left corner, the cutting point
+N620 G00 X40 Z10
+[Part off: the blade cuts
+[from Z-59.5 to Z-57
+[The 3D view shows this cut
+[only as wide as its left
+[corner, the cutting point
 N630 T05 M06 [Tool 5, parting off
 N640 S600 M03
 N650 G00 X38 Z-59.5

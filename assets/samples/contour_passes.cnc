@@ -1,13 +1,19 @@
-[VASE: a flowing contour in many small steps
+[VASE: a flowing contour in many
+[small steps
 [BILLET X50 Z80
-[Programs of this length come from a drawing program
-[Each block is a short straight cut. G01 is modal: rows with only X and Z go on cutting
-N10 G21 G00 X100 Z50
-N20 T02 M06 [Tool 2, finishing. Its slim insert follows the hollows
+[Programs of this length come from a
+[drawing program
+[Each block is a short straight cut.
+[G01 is modal: rows with only X and
+[Z go on cutting
+N10 G21 G00 X54 Z10
+[Tool 2, finishing. Its slim insert
+[follows the hollows
+N20 T02 M06
 N30 S1200 M03
 N40 M08
 N50 G00 X54 Z2
-[Pass 1 of 10: 13 mm outside of the contour
+[Pass 1 of 10: 13 mm outside
 N60 G00 X52
 N70 G01 Z0 F200
 N80 Z-9.5
@@ -58,7 +64,7 @@ N520 X52 Z-67
 N530 Z-76
 N540 X54
 N550 G00 Z2
-[Pass 2 of 10: 11.5 mm outside of the contour
+[Pass 2 of 10: 11.5 mm outside
 N560 G00 X52
 N570 G01 Z0 F200
 N580 Z-7
@@ -127,7 +133,7 @@ N1200 X52 Z-68.5
 N1210 Z-76
 N1220 X54
 N1230 G00 Z2
-[Pass 3 of 10: 10 mm outside of the contour
+[Pass 3 of 10: 10 mm outside
 N1240 G00 X50
 N1250 G01 Z0 F200
 N1260 X50.2 Z-0.5
@@ -220,7 +226,7 @@ N2120 X52 Z-69.5
 N2130 Z-76
 N2140 X54
 N2150 G00 Z2
-[Pass 4 of 10: 8.5 mm outside of the contour
+[Pass 4 of 10: 8.5 mm outside
 N2160 G00 X47
 N2170 G01 Z0 F200
 N2180 X47.2 Z-0.5
@@ -325,7 +331,7 @@ N3160 X52 Z-71
 N3170 Z-76
 N3180 X54
 N3190 G00 Z2
-[Pass 5 of 10: 7 mm outside of the contour
+[Pass 5 of 10: 7 mm outside
 N3200 G00 X44
 N3210 G01 Z0 F200
 N3220 X44.2 Z-0.5
@@ -441,7 +447,7 @@ N4310 X50 Z-72
 N4320 Z-76
 N4330 X54
 N4340 G00 Z2
-[Pass 6 of 10: 5.5 mm outside of the contour
+[Pass 6 of 10: 5.5 mm outside
 N4350 G00 X41
 N4360 G01 Z0 F200
 N4370 X41.2 Z-0.5
@@ -567,7 +573,7 @@ N5560 X47 Z-72
 N5570 Z-76
 N5580 X54
 N5590 G00 Z2
-[Pass 7 of 10: 4 mm outside of the contour
+[Pass 7 of 10: 4 mm outside
 N5600 G00 X38
 N5610 G01 Z0 F200
 N5620 X38.2 Z-0.5
@@ -713,7 +719,7 @@ N7010 X44 Z-72
 N7020 Z-76
 N7030 X54
 N7040 G00 Z2
-[Pass 8 of 10: 2.5 mm outside of the contour
+[Pass 8 of 10: 2.5 mm outside
 N7050 G00 X35
 N7060 G01 Z0 F200
 N7070 X35.2 Z-0.5
@@ -859,7 +865,7 @@ N8460 X41 Z-72
 N8470 Z-76
 N8480 X54
 N8490 G00 Z2
-[Pass 9 of 10: 1 mm outside of the contour
+[Pass 9 of 10: 1 mm outside
 N8500 G00 X32
 N8510 G01 Z0 F200
 N8520 X32.2 Z-0.5
@@ -1005,7 +1011,7 @@ N9910 X38 Z-72
 N9920 Z-76
 N9930 X54
 N9940 G00 Z2
-[Pass 10 of 10: 0.4 mm outside of the contour
+[Pass 10 of 10: 0.4 mm outside
 N9950 G00 X30.8
 N9960 G01 Z0 F200
 N9970 X31 Z-0.5
@@ -1477,7 +1483,7 @@ N14610 X36 Z-71.6
 N14620 Z-76
 N14630 X54
 N14640 G00 Z2
-N14650 G28 U0 W0 [Home, straight from here
+N14650 G28 U0 W0 [Home from here
 N14660 M09
 N14670 M05
 N14680 M30

@@ -1,35 +1,46 @@
-[SHOULDER ROUGHING: the turning cycle G90
+[SHOULDER ROUGHING:
+[the turning cycle G90
 [BILLET X56 Z70
-[One G90 block makes four moves and comes back to where it began:
-[rapid in to X, cut along to Z, feed out along the shoulder, rapid back
-N10 G21 G00 X100 Z50
+[One G90 block makes four moves
+[and comes back to where it began:
+[rapid in to X, cut along to Z, feed
+[out along the shoulder, rapid back
+N10 G21 G00 X54 Z12
 N20 T01 M06 [Tool 1, roughing
 N30 S800 M03
 N40 M08
-N50 G00 X60 Z2 [The cycle begins and ends here, clear of the billet
+[The cycle begins and ends
+[here, clear of the billet
+N50 G00 X60 Z2
 N60 G90 X52 Z-44.8 F200
-[G90 is modal: a row with only X repeats the cycle at a new depth
-[Mind that every other row repeats it too, so no M words in between
+[G90 is modal: a row with only X
+[repeats the cycle at a new depth
+[Mind that every other row repeats
+[it too, so no M words in between
 N70 X48
 N80 X44
-N90 X40
 N100 X36.6
-[A new Z in the same cycle: the second, shorter shoulder
+[A new Z in the same cycle:
+[the second, shorter shoulder
 N110 X32 Z-24.8
 N120 X28.4
-N130 X24.6 Z-22.8 [Shorter, so that stock is left for the fillet
-N140 G00 X100 Z50 [G00 ends the cycle
+[Shorter, so that stock
+[is left for the fillet
+N130 X24.6 Z-22.8
+N140 G00 X54 Z12 [G00 ends the cycle
 N150 T02 M06 [Tool 2, finishing
 N160 S1300 M03
 N170 G00 X20 Z1
 N180 G01 X24 Z-1 F120 [Chamfer 1 mm
 N190 G01 Z-23
-N200 G02 X28 Z-25 R2 [Fillet of radius 2
+[Fillet of radius 2
+N200 G02 X28 Z-25 R2
 N210 G01 X34
 N220 G01 U2 W-1 [Chamfer to X36 Z-26
 N230 G01 Z-45
 N240 G01 X54
-N250 G01 X58 Z-47 [Break the edge of the billet
+[Break the edge of the billet
+N250 G01 X58 Z-47
 N260 G28 X66 Z5
 N270 M09
 N280 M05
