@@ -22,7 +22,7 @@ END = KNOTS[-1][0]
 ROUGH_DISTANCES = (13, 11.5, 10, 8.5, 7, 5.5, 4, 2.5, 1, 0.4)
 ROUGH_STEP, FINE_STEP = 0.5, 0.2
 CLEAR_R = BILLET_X / 2 + 1  # where the tool passes over the billet
-PANE = 36  # characters of a row that the editor shows
+PANE = 34  # characters of a row that the editor shows
 MAX_CHARACTERS = 32_766  # the most that the editor takes
 
 

@@ -65,7 +65,8 @@ N470 G01 X34
 N480 G00 Z-27
 N490 G01 X21.8
 N500 G01 Z-32
-[Along the handle, which is a taper
+[Along the handle,
+[which is a taper
 N510 G01 X28.6 Z-55
 N520 G01 X34
 N530 G00 Z2
@@ -81,8 +82,9 @@ N550 G01 Z0 F120
 [The ball. It ends below its
 [centre, where it is 24 mm across
 N560 G03 X24 Z-24 R15
-[The neck by I and K, the way from
-[the start of the arc to its centre:
+[The neck by I and K, the
+[way from the start of
+[the arc to its centre:
 [I8 is 8 mm outwards on the
 [radius, K-6 is 6 mm along
 [Z, so the radius is 10

@@ -5,8 +5,9 @@ N10 G21 G00 X40 Z10
 N20 T01 M06 [Tool 1, roughing
 N30 S1000 M03
 N40 M08
-[Rough the outline with the turning
-[cycle, from the base to the head
+[Rough the outline with
+[the turning cycle, from
+[the base to the head
 N50 G00 X40 Z2
 N60 G90 X34.6 Z-62 F200
 N70 X31.5 Z-47.6

@@ -1,14 +1,14 @@
 [VASE: a flowing contour in many
 [small steps
 [BILLET X50 Z80
-[Programs of this length come from a
-[drawing program
-[Each block is a short straight cut.
-[G01 is modal: rows with only X and
-[Z go on cutting
+[Programs of this length come from
+[a drawing program
+[Each block is a short straight
+[cut. G01 is modal: rows with only
+[X and Z go on cutting
 N10 G21 G00 X54 Z10
-[Tool 2, finishing. Its slim insert
-[follows the hollows
+[Tool 2, finishing. Its slim
+[insert follows the hollows
 N20 T02 M06
 N30 S1200 M03
 N40 M08

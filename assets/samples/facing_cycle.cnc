@@ -44,7 +44,8 @@ N220 G00 X18 Z1
 N230 G01 X24 Z-2 F120
 N240 G01 Z-15
 N250 G01 X38
-N260 G01 U2 W-1 [Chamfer to X40 Z-16
+[Chamfer to X40 Z-16
+N260 G01 U2 W-1
 N270 G01 Z-19
 [Conical face: 2.7 mm
 [deeper at the outside

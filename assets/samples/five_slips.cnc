@@ -1,7 +1,7 @@
 [BILLET X40 Z60
 [Five slips, made on purpose. Play
-[and watch, then read the page Five
-[slips of the manual and mend them.
+[and watch, then read the page
+[Five slips of the manual.
 N10 G21 G00 X44 Z-1
 [1: What does the spindle do?
 N20 G01 X0 F120

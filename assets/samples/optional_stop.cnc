@@ -49,13 +49,15 @@ N280 G00 X16 Z1
 N290 G01 X22 Z-2 F100 [Chamfer
 N300 G01 Z-20
 N310 G01 X28
-N320 G01 U2 W-1 [Chamfer to X30 Z-21
+[Chamfer to X30 Z-21
+N320 G01 U2 W-1
 N330 G01 Z-43.8
 [Fillet beside the
 [bearing's shoulder
 N340 G02 X32.4 Z-45 R1.2
 N350 G01 X38
-N360 G01 U2 W-1 [Chamfer to X40 Z-46
+[Chamfer to X40 Z-46
+N360 G01 U2 W-1
 N370 G01 Z-60
 N380 G01 X42
 [Break the edge of the billet

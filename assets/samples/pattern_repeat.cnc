@@ -18,13 +18,15 @@ N50 G00 X52 Z2
 [and by 1 mm to the right.
 [R6 is the number of passes
 N60 G73 U15 W1 R6
-[Second block: P and Q are the first
-[and the last row of the contour
+[Second block: P and Q
+[are the first and the
+[last row of the contour
 [The cycle looks for the
 [letter N with the number of
 [P, and the first row that
-[holds it wins. So no row above may
-[hold it, not even in a comment
+[holds it wins. So no
+[row above may hold it,
+[not even in a comment
 [U0.2 here adds 0.1 mm on
 [the radius at each pass,
 [which leaves 0.5 mm at last

@@ -25,7 +25,8 @@ N140 G00 X20 Z2
 N150 G01 X26 Z-1 F120
 N160 G01 Z-6
 N170 G01 X40
-N180 G01 U2 W-1 [Chamfer of the rim
+[Chamfer of the rim
+N180 G01 U2 W-1
 N190 G01 Z-25
 [Chamfer behind the rim; the tool
 [can fall by up to 50 degrees
@@ -59,8 +60,9 @@ N380 G00 Z-13
 N390 G01 X40.2
 N400 G01 X46
 N410 G00 X48 Z10
-[The flanks of 45 degrees and the
-[round bottom for the belt, radius 3
+[The flanks of 45 degrees
+[and the round bottom for
+[the belt, radius 3
 N420 T02 M06
 N430 S1300 M03
 N440 G00 X46 Z-6.657
@@ -71,7 +73,8 @@ N460 G01 X31.757 Z-13.779
 [mm: right behind a taper
 [the 3D view shows no arc
 N470 G01 Z-13.879
-[The bottom is 30 mm across, at Z-16
+[The bottom is 30
+[mm across, at Z-16
 N480 G02 X31.757 Z-18.121 R3
 N490 G01 X42 Z-23.243
 N500 G01 X46 Z-25.243

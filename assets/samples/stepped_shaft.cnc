@@ -12,7 +12,8 @@
 [where tools are changed
 N10 G21 G00 X54 Z10
 N20 T01 M06 [Tool 1, roughing
-N30 S800 M03 [Spindle on, clockwise
+[Spindle on, clockwise
+N30 S800 M03
 N40 M08 [Coolant on
 [Face the end: 1 mm comes
 [off in two cuts, so the
@@ -27,8 +28,9 @@ N80 G00 X54
 N90 G00 Z-1
 N100 G01 X0
 N110 G01 Z2
-[Rough the largest step, finished 42
-[mm across and its shoulder at Z-61
+[Rough the largest step,
+[finished 42 mm across
+[and its shoulder at Z-61
 [Every cut: rapid to the
 [new diameter, feed along
 [Z, feed out, rapid back
@@ -90,10 +92,12 @@ N480 G00 X14 Z1
 N490 G01 X20 Z-2 F120
 N500 G01 Z-21 [First step
 N510 G01 X28 [Its shoulder
-[Chamfer again, this time by U and W
+[Chamfer again, this
+[time by U and W
 N520 G01 U2 W-1
 N530 G01 Z-39 [Middle step
-[Fillet of radius 2 into the corner
+[Fillet of radius
+[2 into the corner
 N540 G02 X34 Z-41 R2
 N550 G01 X40
 N560 G01 U2 W-1

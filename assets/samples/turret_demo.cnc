@@ -114,5 +114,6 @@ N730 M09
 N740 M05
 N750 M38 [Open the door
 N760 M10 [Open the chuck
-[End: back to the start, coolant off
+[End: back to the
+[start, coolant off
 N770 M30
