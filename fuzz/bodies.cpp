@@ -8,15 +8,18 @@
 #include <vector>
 
 #include "debugger/debug_grid.h"
+#include "debugger/run_commands.h"
 #include "editor/documents.h"
 #include "editor/recovery_offer.h"
 #include "editor/recovery_text.h"
 #include "editor/reformat.h"
 #include "editor/syntax_check.h"
+#include "interpreter/machine.h"
 #include "interpreter/run_driver.h"
 #include "interpreter/tool_change.h"
 #include "mainwindow/layout.h"
 #include "motion/player.h"
+#include "motion/stock.h"
 #include "motion/tool.h"
 #include "platform/code_page.h"
 #include "platform/host/settings_store.h"
@@ -63,9 +66,9 @@ void LookAtProfile() {
 void KeepRunGoing() {
   constexpr int kYieldBound = 100;
   constexpr int kLookEvery = 25;
-  Require(Fakes::Yields() < 20 * kYieldBound, "a stopped run ends");
-  if (Fakes::Yields() % kLookEvery == 0) LookAtProfile();
-  if (Fakes::Yields() == kYieldBound) {
+  Require(Fakes::world.yields < 20 * kYieldBound, "a stopped run ends");
+  if (Fakes::world.yields % kLookEvery == 0) LookAtProfile();
+  if (Fakes::world.yields == kYieldBound) {
     frmMain::mnuRunStop_Click();
   } else if (frmMain::IsRunPaused()) {
     frmMain::mnuRunStart_Click();
@@ -74,14 +77,14 @@ void KeepRunGoing() {
 
 // A cycle without moves doesn't yield, but its tool changes and other M words can be many.
 void StopWhatNotifiesForEver() {
-  constexpr std::size_t kNotificationBound = 1'000;
-  if (Fakes::Notifications().size() == kNotificationBound) frmMain::mnuRunStop_Click();
+  constexpr int kNotificationBound = 1'000;
+  if (Fakes::world.notifications == kNotificationBound) frmMain::mnuRunStop_Click();
 }
 
 // No more of a start-up than the bodies lean on: it would cost more than most inputs.
 void StartMachine() {
   Fakes::Reset();
-  Fakes::CollectMessages();
+  Fakes::world.collectsMessages = true;
   Fakes::PutPicture("/app/tools/tool.bmp", Raster(4, 4));
   Fakes::PutPicture("/app/tools/a.bmp", Raster(4, 4));
   frmMain::ResetToProgramStart();
@@ -106,8 +109,8 @@ std::pair<std::string, std::string> Halves(std::string_view bytes) {
 void Program(std::string_view bytes) {
   StartMachine();
   formerProfile.clear();
-  Fakes::AtEachYield(KeepRunGoing);
-  Fakes::AtEachNotification(StopWhatNotifiesForEver);
+  Fakes::world.atEachYield = KeepRunGoing;
+  Fakes::world.atEachNotification = StopWhatNotifiesForEver;
   frmMain::Slider.Value = SliderControl::kMax;
   RichText& editor = frmMain::TextEditor();
   editor.SetText(WithCrLf(DecodeProgram(bytes).text));
@@ -165,11 +168,11 @@ void Recovery(std::string_view bytes) {
                                        std::string(parts[2]), std::string(parts[1])};
   const auto read = frmMain::DecodeRecovery(bytes);
   Require(!read || frmMain::EncodeRecovery(*read) == bytes, "a file is read as it was written");
-  Fakes::EndedRecoveryFiles() = {frmMain::EncodeRecovery(document)};
+  Fakes::world.endedRecoveryFiles = {frmMain::EncodeRecovery(document)};
   frmMain::OfferRecovery();
   Require(frmMain::TextEditor().Text() == document.text, "what is offered is opened");
   frmMain::RecoveryTimer_Timer();
-  Require(document.text.empty() || frmMain::DecodeRecovery(Fakes::RecoveryFile()) == document,
+  Require(document.text.empty() || frmMain::DecodeRecovery(Fakes::world.recoveryFile) == document,
           "and kept as it was");
 }
 

@@ -2,14 +2,10 @@
 
 #include <clocale>
 #include <cstdlib>
-#include <fstream>
-#include <iterator>
 #include <random>
-#include <sstream>
 #include <vector>
 
 #include "editor/reformat.h"
-#include "mainwindow/view_toggles.h"
 #include "platform/code_page.h"
 #include "platform/numbers.h"
 #include "platform/text.h"
@@ -26,32 +22,6 @@ std::string Substance(std::string_view text) {
     if (std::string_view(" \t\r\n").find(c) == std::string_view::npos) kept += ToUpper(c);
   }
   return kept;
-}
-
-// Slips of people who come from other controls, and each kind of fault, one file each. The list
-// tells where the selection begins, how long it is, and style, title and text of the message.
-TEST_F(SyntaxCheckTest, StartShowsTheFirstFaultAndLosesNothing) {
-  Fakes::CollectMessages();
-  std::ifstream list(TURNBAY_SLIPS "/expected.txt");
-  std::size_t slips = 0;
-  for (std::string expected; std::getline(list, expected); ++slips) {
-    const std::string name = expected.substr(0, expected.find(' '));
-    std::ifstream file(std::string(TURNBAY_SLIPS "/").append(name), std::ios::binary);
-    const std::string bytes{std::istreambuf_iterator<char>(file), {}};
-    RichText& editor = Open(bytes);
-    if (!frmMain::DebugWindow.Visible) frmMain::mnuViewDebugWindow_Click();
-    frmMain::mnuRunStart_Click();
-    const auto& message = Fakes::Messages().back();
-    std::ostringstream told;
-    told << name << ' ' << editor.SelStart() << ' ' << editor.SelLength() << ' ' << message.style
-         << ' ' << message.title << ": " << message.text;
-    EXPECT_EQ(expected, told.str());
-    const bool isFault = !message.text.starts_with("Billet");
-    EXPECT_TRUE(editor.Visible == isFault && frmMain::DebugWindow.Visible != isFault) << name;
-    EXPECT_EQ(Substance(bytes), Substance(editor.Text()));
-  }
-  EXPECT_EQ(slips, Fakes::Messages().size());
-  EXPECT_LT(20u, slips);
 }
 
 // Plays generated programs up to the check, and tells what became of them.
@@ -76,7 +46,7 @@ std::string Transcript() {
     told += once;
     if (!frmMain::CheckSyntax(editor)) continue;
     const std::string selected = editor.SelText();
-    const std::string message = Fakes::Messages().back().text;
+    const std::string message = Fakes::world.messages.back();
     told += message + selected;
     const bool namesIt = message.find(CodePageToUtf8(selected)) != std::string::npos;
     EXPECT_TRUE(message.starts_with("This") ? !IsNumeric(selected) : namesIt || selected == " ");
@@ -85,9 +55,9 @@ std::string Transcript() {
 }
 
 TEST_F(SyntaxCheckTest, GeneratedProgramsBecomeTheSameInEachLanguage) {
-  Fakes::CollectMessages();
+  Fakes::world.collectsMessages = true;
   const std::string expected = Transcript();
-  EXPECT_LT(500u, Fakes::Messages().size()) << "the programs are too tame";
+  EXPECT_LT(500u, Fakes::world.messages.size()) << "the programs are too tame";
   for (const char* locale : {"de_DE.UTF-8", "tr_TR.UTF-8"}) {
     if (std::setlocale(LC_ALL, locale) == nullptr) continue;
     EXPECT_EQ(expected, Transcript()) << locale;

@@ -17,7 +17,11 @@ namespace {
 // More yields than any test needs: a loop that never ends fails instead of hanging.
 constexpr int kYieldBudget = 5'000'000;
 
-FakeWorld& world = Fakes::world;
+using Fakes::world;
+
+void Hear(const std::string& what) {
+  if (world.hear) world.hear(what);
+}
 
 std::string Normalized(const std::string& path) {
   std::string result;
@@ -42,18 +46,33 @@ T TakeFirst(std::deque<T>& queue) {
   return first;
 }
 
-bool AnswerDialog(bool isOpen, CommonDialog& dialog) {
-  if (world.dialogs.empty() || world.dialogs.front().first != isOpen) {
-    ADD_FAILURE() << "unexpected file dialog to " << (isOpen ? "open" : "save");
-    return false;
-  }
+bool AnswerDialog(const std::string& kind, CommonDialog& dialog) {
   EXPECT_EQ("CNC Code Files|*.cnc|All Files|*.*", dialog.Filter);
   EXPECT_EQ(6154, dialog.Flags);
   EXPECT_TRUE(dialog.CancelError);
-  world.offeredName = dialog.FileName;
-  const std::string chosen = TakeFirst(world.dialogs).second;
+  EXPECT_FALSE(world.chosen.empty()) << "nobody expects a file dialog";
+  if (world.chosen.empty()) return false;
+  const std::string chosen = TakeFirst(world.chosen);
+  Hear("dialog to " + kind + ", in " + dialog.InitDir + ", with \"" + dialog.FileName +
+       "\": " + (chosen.empty() ? "Cancel" : chosen));
   if (!chosen.empty()) dialog.FileName = chosen;
   return !chosen.empty();
+}
+
+// Icon, buttons and the one that Enter presses, as "question, Yes No, No first".
+std::string StyleName(int style) {
+  using namespace Desktop;
+  std::string name = style & kCritical      ? "fault"
+                     : style & kQuestion    ? "question"
+                     : style & kInformation ? "note"
+                                            : "plain";
+  const int buttons = style & 7;
+  name += buttons == kYesNoCancel ? ", Yes No Cancel" : buttons == kYesNo ? ", Yes No" : "";
+  return style & kDefaultButton2 ? name + ", No first" : name;
+}
+
+std::string NameOfAnswer(int answer) {
+  return answer == Desktop::kYes ? "Yes" : answer == Desktop::kNo ? "No" : "Cancel";
 }
 
 std::string SettingName(std::string_view section, std::string_view key) {
@@ -63,26 +82,21 @@ std::string SettingName(std::string_view section, std::string_view key) {
 }  // namespace
 
 void Fakes::Verify() {
-  for (const FakeMessage& message : world.expectedMessages) {
-    ADD_FAILURE() << "never shown: " << message.text;
-  }
-  EXPECT_EQ(0U, world.dialogs.size()) << "file dialogs were never shown";
+  EXPECT_TRUE(world.answers.empty()) << "a box that asks was never shown";
+  EXPECT_TRUE(world.chosen.empty()) << "a file dialog was never shown";
   EXPECT_TRUE(world.atYield.empty()) << "only " << world.yields << " yields happened";
-  EXPECT_EQ(0U, world.atWait.size()) << "actions that the run never waited for";
+  EXPECT_TRUE(world.atWait.empty()) << "a run never waited";
 }
 
 void Fakes::PutPicture(const std::string& path, const Raster& picture) {
   world.pictures[Normalized(path)] = picture;
 }
-void Fakes::RemovePicture(const std::string& path) {
-  world.pictures.erase(Normalized(path));
-}
 void Fakes::PutFile(const std::string& path, const std::string& bytes) {
   world.files[Normalized(path)] = bytes;
 }
-std::string Fakes::FileBytes(const std::string& path) {
-  std::string reason;
-  return Find(world.files, path, reason).value_or("");
+void Fakes::RemoveFile(const std::string& path) {
+  world.pictures.erase(Normalized(path));
+  world.files.erase(Normalized(path));
 }
 
 namespace Desktop {
@@ -108,36 +122,37 @@ int MillisecondsSinceYield() {
 }
 
 void Sleep(int milliseconds) {
-  world.sleeps.push_back(milliseconds);
+  ++world.sleeps[milliseconds];
 }
 
 int MessageBox(const std::string& text, int style, const std::string& title) {
-  world.messages.push_back({text, style, title});
-  if (world.collectsMessages) return (style & (kYesNoCancel | kYesNo)) != kOkOnly ? kYes : kOk;
-  if (world.expectedMessages.empty()) {
-    ADD_FAILURE() << "unexpected message box: " << title << ": " << text;
-    return kOk;
+  world.messages.push_back(text);
+  const bool asks = (style & (kYesNoCancel | kYesNo)) != kOkOnly;
+  int answer = asks ? kYes : kOk;
+  if (asks && !world.answers.empty()) {
+    answer = TakeFirst(world.answers);
+  } else if (!world.collectsMessages && (asks || !world.hear)) {
+    ADD_FAILURE() << "nobody expects the box " << text;
   }
-  const FakeMessage expected = TakeFirst(world.expectedMessages);
-  EXPECT_EQ(expected.text, text);
-  EXPECT_EQ(expected.style, style) << text;
-  EXPECT_EQ(expected.title, title) << text;
-  return expected.answer;
+  Hear("box \"" + title + "\" (" + StyleName(style) + "): " + text +
+       (asks ? " " + NameOfAnswer(answer) : ""));
+  return answer;
 }
 
 void ShowNotification(const std::string& text, int milliseconds, bool modal) {
-  world.notifications.push_back(text);
-  world.notificationStyle = std::to_string(milliseconds) + (modal ? " ms, modal" : " ms");
+  ++world.notifications;
+  Hear("notification \"" + text + "\", " + std::to_string(milliseconds) +
+       (modal ? " ms, modal" : " ms"));
   if (world.atEachNotification) world.atEachNotification();
   if (modal) Yield();
 }
 
 void ShowSplash() {
-  ++world.splashes;
+  Hear("splash");
 }
 
 void SendKeys(const std::string& keys) {
-  world.sentKeys += keys;
+  Hear("keys pressed by the program: \"" + keys + '"');
 }
 
 bool StartProgram(const std::string& /*program*/, const std::string& /*path*/) {
@@ -145,22 +160,22 @@ bool StartProgram(const std::string& /*program*/, const std::string& /*path*/) {
 }
 
 void EndProgram() {
-  world.ended = true;
+  Hear("the program ends");
 }
 
 void sndPlaySoundA(const std::string& path, int flags) {
   EXPECT_EQ(kSoundAsync | kSoundLoop, flags);
-  world.sounds.push_back(path);
+  Hear("sound " + path);
 }
 
 }  // namespace Desktop
 
 bool CommonDialog::ShowOpen() {
-  return AnswerDialog(true, *this);
+  return AnswerDialog("open", *this);
 }
 
 bool CommonDialog::ShowSave() {
-  return AnswerDialog(false, *this);
+  return AnswerDialog("save", *this);
 }
 
 bool CommonDialog::ShowColor() {
@@ -178,14 +193,14 @@ void SaveSetting(std::string_view application, std::string_view section, std::st
                  std::string_view value) {
   EXPECT_EQ("CNC", application);
   const std::string name = SettingName(section, key);
+  Hear("stores " + name + '=' + std::string(value));
   world.settings[name] = value;
-  world.savedSettings.push_back(name + '=' + std::string(value));
 }
 
 bool WriteRecoveryFile(std::string_view bytes) {
   if (world.recoveryFails) return false;
+  Hear("recovery file written");
   world.recoveryFile = bytes;
-  ++world.recoveryWrites;
   return true;
 }
 
@@ -217,8 +232,10 @@ std::optional<std::string> ReadFile(const std::string& path, std::string& reason
 
 bool ReplaceFile(const std::string& path, std::string_view bytes, std::string& reason) {
   reason = world.writeFailure;
-  if (reason.empty()) world.files[Normalized(path)] = bytes;
-  return reason.empty();
+  if (!reason.empty()) return false;
+  Hear("file " + path + " written");
+  Fakes::PutFile(path, std::string(bytes));
+  return true;
 }
 
 std::optional<Raster> LoadPicture(const std::string& path, std::string& reason) {

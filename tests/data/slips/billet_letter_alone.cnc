@@ -1,2 +1,0 @@
-[BILLET X Z40
-G01 X10

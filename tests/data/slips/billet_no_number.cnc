@@ -1,2 +1,0 @@
-[BILLET X20 Zoo
-G01 X10

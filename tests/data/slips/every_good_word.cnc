@@ -1,4 +1,0 @@
-G0 G1.0 G02 G3 G4 G21 G28 G70 G71 G72 G73 G90 G94 G97 G98 G1.5 G0-
-M99999 X007 Z-40 I+5 K.5 P5. Q5- N5 N5 S1 T1 U1 W1 R2
-[no (check) here; %
-g01 x5[y is free

@@ -1,0 +1,360 @@
+// The transcripts in tests/data/sessions: what a user does, a row each, and below it what is then
+// to be seen, kept or lost, as far as it has changed. With TURNBAY_WRITE_GOLDEN=1 the latter is
+// written anew.
+
+#include <algorithm>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+
+#include "debugger/run_commands.h"
+#include "editor/documents.h"
+#include "editor/editor_events.h"
+#include "editor/recovery_offer.h"
+#include "editor/recovery_text.h"
+#include "editor/reformat.h"
+#include "interpreter/decoder.h"
+#include "interpreter/machine.h"
+#include "mainwindow/command.h"
+#include "mainwindow/view_toggles.h"
+#include "motion/player.h"
+#include "motion/stock.h"
+#include "platform/host/settings_store.h"
+#include "platform/numbers.h"
+#include "platform/text.h"
+#include "settings/options.h"
+#include "settings/settings.h"
+#include "tests/fakes/machine_test.h"
+#include "tests/fakes/shown.h"
+#include "toollib/tool_files.h"
+
+using namespace frmMain;
+using namespace GlobalVariables;
+using Fakes::world;
+
+namespace {
+
+using Words = std::vector<std::string>;
+
+// What has been seen since the row began, a line each.
+std::vector<std::string> seen;
+Shown before;
+int picturesShown = 0;
+std::int64_t playedBefore = 0;
+int yieldsBefore = 0;
+
+int Number(std::string_view word) {
+  return static_cast<int>(ParseNumber(word).value_or(0));
+}
+std::int16_t Number16(std::string_view word) {
+  return ClipToInt16(Number(word));
+}
+
+// " / " is a line end, and there are "\r", "\n", "\t" and "\xE4"; "\{9 G}" is "GGGGGGGGG".
+std::string Unquoted(std::string_view text) {
+  std::string bytes;
+  while (!text.empty()) {
+    std::size_t taken = 1;
+    if (text.starts_with(" / ")) {
+      bytes += kLineEnd;
+      taken = 3;
+    } else if (text.starts_with("\\x")) {
+      taken = 4;
+      constexpr std::string_view kDigits = "0123456789ABCDEF";
+      bytes += static_cast<char>(kDigits.find(text[2]) * 16 + kDigits.find(text[3]));
+    } else if (text.starts_with("\\{")) {
+      taken = text.find('}') + 1;
+      bytes.append(static_cast<std::size_t>(Number(text.substr(2, taken - 5))), text[taken - 2]);
+    } else if (text.front() == '\\') {
+      taken = 2;
+      bytes += text[1] == 'r' ? '\r' : text[1] == 'n' ? '\n' : '\t';
+    } else {
+      bytes += text.front();
+    }
+    text.remove_prefix(taken);
+  }
+  return bytes;
+}
+
+// What has changed since the last look.
+void Look() {
+  Shown now = LookAround();
+  for (const auto& entry : now) {
+    const auto same = std::ranges::find(before, entry.first, &Shown::value_type::first);
+    if (same != before.end() && *same == entry) continue;
+    seen.push_back(entry.first + ": " + entry.second);
+  }
+  before = std::move(now);
+}
+
+void Hear(const std::string& what) {
+  if (what.starts_with("stores RecentFilePaths")) return;
+  if (what.starts_with("box") || what.starts_with("notification")) Look();
+  seen.push_back(what);
+}
+
+// What was played and shown since the last row, with the pauses between.
+void TellPace() {
+  std::ostringstream pace;
+  pace << "played: " << GCodes::PointsPlayed - playedBefore << " points, " << picturesShown
+       << " pictures, " << world.yields - yieldsBefore << " yields";
+  for (const auto& [length, count] : world.sleeps) {
+    pace << ", " << count << " x " << length << " ms";
+  }
+  if (!pace.str().starts_with("played: 0 points, 0 pictures, 0 ")) seen.push_back(pace.str());
+  playedBefore = GCodes::PointsPlayed;
+  yieldsBefore = world.yields;
+  world.sleeps.clear();
+  picturesShown = 0;
+}
+
+void WatchPicture() {
+  picSim.Blt = [](const Raster&, const PixelRect& at) {
+    ++picturesShown;
+    if (!world.atEachYield) return;
+    std::ostringstream place;
+    place << "shown: " << at.left << ' ' << at.top << " to " << at.right << ' ' << at.bottom;
+    seen.push_back(place.str());
+  };
+  picSim.Cls = [] { seen.emplace_back("picture area cleared"); };
+}
+
+void Resize(int width, int height) {
+  ScaleWidth = width;
+  ScaleHeight = height;
+  Form_Resize();
+}
+
+// Of the first start nothing is in the transcript.
+void Begin() {
+  Fakes::Verify();
+  StartMachine();
+  WatchPicture();
+  Form_Paint();
+  before = LookAround();
+  picturesShown = 0;
+  playedBefore = 0;
+  yieldsBefore = world.yields;
+  world.hear = Hear;
+}
+
+// Those of the menus and of the tool bar, with the entry or the menu that closes them.
+struct NamedCommand {
+  std::string_view name;
+  Command click;
+  const MenuEntry* entry = nullptr;
+};
+const NamedCommand kCommandsByName[] = {
+    {"New", mnuFileNew_Click, &mnuFile},
+    {"Open", mnuFileOpen_Click, &mnuFile},
+    {"Save", mnuFileSave_Click, &mnuFileSave},
+    {"Save As", mnuFileSaveAS_Click, &mnuFile},
+    {"Exit", mnuFileExit_Click, &mnuFile},
+    {"Text Editor", mnuViewTextEditor_Click, &mnuView},
+    {"Debug Window", mnuViewDebugWindow_Click, &mnuView},
+    {"Status Bar", Command::BesideEdit(mnuViewStatusBar_Click), &mnuView},
+    {"Tool Bar", Command::BesideEdit(mnuViewToolBar_Click), &mnuView},
+    {"Show Labels", Command::BesideEdit(mnuToolBarShowLabels_Click)},
+    {"Start", mnuRunStart_Click, &mnuRunStart},
+    {"Pause", Command::BesideEdit(mnuRunPause_Click), &mnuRunPause},
+    {"Stop", Command::BesideEdit(mnuRunStop_Click), &mnuRunStop},
+    {"Step", Command::BesideEdit(mnuRunStepInto_Click), &mnuRunStepInto},
+    {"Run To Breakpoint", mnuRunRunToBreakpoint_Click},
+    {"Play Sound", Command::BesideEdit(mnuToolsPlaySound_Click), &mnuTools},
+    {"Reformat Text", mnuToolsReformatText_Click, &mnuTools},
+};
+
+void Press(const std::string& name) {
+  const auto* command = std::ranges::find(kCommandsByName, name, &NamedCommand::name);
+  ASSERT_NE(std::end(kCommandsByName), command) << name;
+  if (command->entry != nullptr && !command->entry->Enabled) {
+    seen.emplace_back("closed");
+  } else {
+    command->click.Choose();
+  }
+}
+
+void Open(const std::string& path, const std::string& bytes) {
+  Fakes::PutFile(path, bytes);
+  world.chosen.push_back(path);
+  Press("Open");
+}
+
+void PressKey(std::int16_t key, std::int16_t shift) {
+  std::int16_t left = key;
+  TextEditor_KeyDown(left, shift);
+  if (left != key) seen.push_back("key left: " + DecimalText(left));
+  Look();
+  TextEditor_KeyUp(key, shift);
+}
+
+void Act(const std::string& row);
+
+// Later, with the row in the transcript where it happens.
+Fakes::Action Later(const std::string& row) {
+  return [row] {
+    Look();
+    seen.push_back("> " + row);
+    Act(row);
+    Look();
+  };
+}
+
+void SetOption(const std::string& name, const std::string& text) {
+  const std::size_t slash = name.find('/');
+  SaveSetting("CNC", name.substr(0, slash), name.substr(slash + 1), text);
+}
+
+// A row is one of these and its words, of which the last one holds the rest.
+struct Verb {
+  std::string_view name;
+  std::size_t words;
+  void (*act)(const Words& words);
+};
+const Verb kVerbs[] = {
+    {"start again", 0, [](const Words&) { ResetToProgramStart(), Form_Load(), WatchPicture(); }},
+    {"start", 0, [](const Words&) { Begin(); }},
+    {"press", 1, [](const Words& w) { Press(w[0]); }},
+    {"recent", 1, [](const Words& w) { mnuFileRecentFiles_Click(ClipToInt16(Number(w[0]) - 1)); }},
+    {"close", 0,
+     [](const Words&) {
+       std::int16_t cancel = kFalse;
+       Form_QueryUnload(cancel, kClosedByUser);
+       if (cancel != kFalse) seen.emplace_back("the window stays");
+     }},
+    {"answer", 1,
+     [](const Words& w) {
+       world.answers.push_back(w[0] == "Yes"  ? Desktop::kYes
+                               : w[0] == "No" ? Desktop::kNo
+                                              : Desktop::kCancel);
+     }},
+    {"choose", 1, [](const Words& w) { world.chosen.push_back(w[0]); }},
+    {"at yield", 2, [](const Words& w) { Fakes::AtYield(Number(w[0]), Later(w[1])); }},
+    {"in pause", 1, [](const Words& w) { world.atWait.push_back(Later(w[0])); }},
+    {"watch", 0, [](const Words&) { world.atEachYield = Look; }},
+    {"each step takes", 1, [](const Words& w) { world.stepTime = Number(w[0]); }},
+    // Files and settings as they are found.
+    {"file", 2, [](const Words& w) { Fakes::PutFile(w[0], Unquoted(w[1])); }},
+    {"no file", 1, [](const Words& w) { Fakes::RemoveFile(w[0]); }},
+    {"bitmap", 2, [](const Words& w) { Fakes::PutPicture(w[0], TriangleTool(Number(w[1]), 30)); }},
+    {"disk", 1, [](const Words& w) { world.writeFailure = w[0]; }},
+    {"recovery fails", 1, [](const Words& w) { world.recoveryFails = Number(w[0]) != 0; }},
+    {"left behind", 4,
+     [](const Words& w) {
+       const auto text = [&](int i) { return w[i] == "-" ? "" : Unquoted(w[i]); };
+       world.endedRecoveryFiles.push_back(
+           w[0] == "damaged" ? w[0] : EncodeRecovery({text(0), w[1] == "utf-8", text(3), text(2)}));
+     }},
+    {"offer", 0, [](const Words&) { OfferRecovery(); }},
+    {"empty store", 0, [](const Words&) { world.settings.clear(); }},
+    {"store", 2, [](const Words& w) { SetOption(w[0], Unquoted(w[1])); }},
+    {"options", 2, [](const Words& w) { SetOption(w[0], w[1]), LoadSettings(), ApplyOptions(); }},
+    {"save options", 0, [](const Words&) { SaveOptions(Settings); }},
+    // The program.
+    {"open", 2, [](const Words& w) { Open(w[0], Unquoted(w[1])); }},
+    {"program", 1, [](const Words& w) { Open("/part.cnc", Unquoted(w[0])); }},
+    {"type", 1, [](const Words& w) { TextEditor().SetText(Unquoted(w[0])); }},
+    {"select", 2,
+     [](const Words& w) {
+       TextEditor().SetSelStart(static_cast<std::size_t>(Number(w[0])));
+       TextEditor().SetSelLength(static_cast<std::size_t>(Number(w[1])));
+     }},
+    {"key", 2, [](const Words& w) { PressKey(Number16(w[0]), Number16(w[1])); }},
+    {"window key", 1, [](const Words& w) { Form_KeyUp(Number16(w[0]), 0); }},
+    {"a second passes", 0, [](const Words&) { RecoveryTimer_Timer(); }},
+    // As a row that was edited in place, which no check has seen.
+    {"block", 1, [](const Words& w) { ModCNC::ExecuteBlock(w[0]); }},
+    // The grid.
+    {"click row", 2, [](const Words& w) { ClickRow(Number(w[0]) - 1, Number(w[1])); }},
+    {"mark row", 1, [](const Words& w) { ClickRow(Number(w[0]) - 1, kMarkColumn); }},
+    {"edit row", 2,
+     [](const Words& w) {
+       const int row = Number(w[0]) - 1;
+       EditRowAs(row, w[1].empty()  ? DebugWindow.TextMatrix(row, kTextColumn)
+                      : w[1] == "-" ? ""
+                                    : Unquoted(w[1]));
+     }},
+    {"edit key", 1, [](const Words& w) { txtDebug_KeyUp(Number16(w[0]), 0); }},
+    {"leave edit", 0, [](const Words&) { txtDebug_LostFocus(); }},
+    {"scroll", 1, [](const Words& w) { DebugWindow.TopRow = Number(w[0]) - 1, txtDebug_Follow(); }},
+    // The window.
+    {"resize", 2, [](const Words& w) { Resize(Number(w[0]), Number(w[1])); }},
+    {"window state", 1, [](const Words& w) { WindowState = Number(w[0]); }},
+    {"slide", 1, [](const Words& w) { Slider.Value = Number(w[0]); }},
+    {"point at", 2,
+     [](const Words& w) { seen.push_back(Quoted(Graphics::Measure(Number(w[0]), Number(w[1])))); }},
+    {"assign", 2,
+     [](const Words& w) {
+       ToolFiles.at(static_cast<std::size_t>(Number(w[0]))) = Unquoted(w[1]);
+       std::string reason;
+       if (!frmToolSelect::WriteToolList(reason)) seen.push_back(Quoted(reason));
+     }},
+};
+
+void Act(const std::string& row) {
+  for (const Verb& verb : kVerbs) {
+    if (!row.starts_with(verb.name)) continue;
+    std::string_view rest = std::string_view(row).substr(verb.name.size());
+    if (!rest.empty() && rest.front() != ' ') continue;
+    Words words(verb.words);
+    for (std::string& word : words) {
+      rest.remove_prefix(std::min<std::size_t>(1, rest.size()));
+      word = rest.substr(0, &word == &words.back() ? rest.npos : rest.find(' '));
+      rest.remove_prefix(word.size());
+    }
+    verb.act(words);
+    return;
+  }
+  FAIL() << "nobody can " << row;
+}
+
+class SessionsTest : public MachineTest, public testing::WithParamInterface<std::string> {};
+
+bool IsSeen(const std::string& line) {
+  return line.starts_with("  ");
+}
+
+TEST_P(SessionsTest, IsAsItIsKept) {
+  const std::string path = TURNBAY_SESSIONS "/" + GetParam() + ".session";
+  std::vector<std::string> lines;
+  std::ifstream file(path);
+  for (std::string line; std::getline(file, line);) lines.push_back(line);
+  const bool writes = std::getenv("TURNBAY_WRITE_GOLDEN") != nullptr;
+  std::string anew;
+  for (std::size_t i = 0; i < lines.size(); ++i) {
+    const std::string& row = lines[i];
+    if (IsSeen(row)) continue;
+    anew += row + '\n';
+    if (row.empty() || row.front() == '#') continue;
+    const testing::ScopedTrace trace(path.c_str(), static_cast<int>(i + 1), row);
+    seen.clear();
+    Act(row);
+    Form_Paint();
+    Look();
+    TellPace();
+    std::string kept;
+    for (std::size_t k = i + 1; k < lines.size() && IsSeen(lines[k]); ++k) kept += lines[k] + '\n';
+    std::string now;
+    for (const std::string& line : seen) {
+      now += "  " + line.substr(0, line.find_last_not_of(' ') + 1) + '\n';
+    }
+    anew += now;
+    if (!writes && kept != now) {
+      ADD_FAILURE() << "it is kept with\n" << kept << "and is now seen with\n" << now;
+    }
+  }
+  if (writes) std::ofstream(path) << anew;
+}
+
+std::vector<std::string> Names() {
+  std::vector<std::string> names;
+  for (const auto& file : std::filesystem::directory_iterator(TURNBAY_SESSIONS)) {
+    names.push_back(file.path().stem());
+  }
+  return names;
+}
+INSTANTIATE_TEST_SUITE_P(Kept, SessionsTest, testing::ValuesIn(Names()),
+                         [](const auto& session) { return session.param; });
+
+}  // namespace
