@@ -230,7 +230,8 @@ const Verb kVerbs[] = {
                                               : Desktop::kCancel);
      }},
     {"choose", 1, [](const Words& w) { world.chosen.push_back(w[0]); }},
-    {"at yield", 2, [](const Words& w) { Fakes::AtYield(Number(w[0]), Later(w[1])); }},
+    {"at yield", 2,
+     [](const Words& w) { world.atYield[world.yields + Number(w[0])] = Later(w[1]); }},
     {"in pause", 1, [](const Words& w) { world.atWait.push_back(Later(w[0])); }},
     {"watch", 0, [](const Words&) { world.atEachYield = Look; }},
     {"each step takes", 1, [](const Words& w) { world.stepTime = Number(w[0]); }},

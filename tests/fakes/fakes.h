@@ -63,11 +63,6 @@ inline void Reset() {
 // Fails the test for whatever was scripted and didn't happen; call after each test.
 void Verify();
 
-// Runs `action` inside the n-th call of Yield or WaitForEvent from now on (n counts from 1).
-inline void AtYield(int n, Action action) {
-  world.atYield[world.yields + n] = std::move(action);
-}
-
 // Paths are compared without regard to case and to the kind of separator. The application folder
 // is "/app".
 void PutPicture(const std::string& path, const Raster& picture);
