@@ -243,7 +243,7 @@ const Verb kVerbs[] = {
     {"recovery fails", 1, [](const Words& w) { world.recoveryFails = Number(w[0]) != 0; }},
     {"left behind", 4,
      [](const Words& w) {
-       const auto text = [&](int i) { return w[i] == "-" ? "" : Unquoted(w[i]); };
+       const auto text = [&](std::size_t i) { return w[i] == "-" ? "" : Unquoted(w[i]); };
        world.endedRecoveryFiles.push_back(
            w[0] == "damaged" ? w[0] : EncodeRecovery({text(0), w[1] == "utf-8", text(3), text(2)}));
      }},
