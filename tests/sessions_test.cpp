@@ -65,7 +65,9 @@ std::string Unquoted(std::string_view text) {
       bytes += static_cast<char>(kDigits.find(text[2]) * 16 + kDigits.find(text[3]));
     } else if (text.starts_with("\\{")) {
       taken = text.find('}') + 1;
-      bytes.append(static_cast<std::size_t>(Number(text.substr(2, taken - 5))), text[taken - 2]);
+      const std::size_t blank = text.find(' ');
+      const std::string item = Unquoted(text.substr(blank + 1, taken - blank - 2));
+      for (int i = Number(text.substr(2, blank - 2)); i > 0; --i) bytes += item;
     } else if (text.front() == '\\') {
       taken = 2;
       bytes += text[1] == 'r' ? '\r' : text[1] == 'n' ? '\n' : '\t';
