@@ -1,12 +1,63 @@
 #include "apps/play_options.h"
 
 #include <QCommandLineParser>
-#include <utility>
+#include <string_view>
+#include <variant>
 
 namespace {
 
 constexpr int kWrongUsage = 2;
 constexpr int kMaxSide = 16'384;
+
+struct OptionRow {
+  // Opens a group of --help; empty: goes on with the one above.
+  const char* group;
+  const char* name;
+  // What stands behind the option in --help; empty: it takes no value.
+  const char* value;
+  const char* text;
+  std::variant<bool PlayOptions::*, std::string PlayOptions::*, PictureSize PlayOptions::*> target;
+  const char* fallback = "";
+};
+
+constexpr OptionRow kOptions[] = {
+    {"Playing", "size", "WxH", "Simulation area in pixels.", &PlayOptions::size, "1000x640"},
+    {"", "tools", "DIR", "Tool folder; default: the program's own.", &PlayOptions::tools},
+    {"", "run-to-breakpoint", "", "Play without drawing until a break point.",
+     &PlayOptions::runToBreakpoint},
+    {"Instead of playing", "check", "", "Only bring the text into its layout and check it.",
+     &PlayOptions::check},
+    {"", "reformat", "", "Print the program in its layout on standard output.",
+     &PlayOptions::reformat},
+    {"Writing what came out", "report", "FILE.json", "Write a report; - is standard output.",
+     &PlayOptions::report},
+    {"", "profile", "FILE.csv", "Write a line a column: z in mm, radius in mm, taper mark.",
+     &PlayOptions::profile},
+    {"", "picture", "FILE.png", "Write the simulation area after the run.", &PlayOptions::picture},
+    {"", "turned-part", "FILE.png", "Write the turned part in 3D after the run.",
+     &PlayOptions::turnedPart},
+    {"", "turned-part-size", "WxH", "Size of that picture in pixels.", &PlayOptions::turnedPartSize,
+     "800x600"},
+    {"Other", "help", "", "Show this help.", &PlayOptions::help},
+    {"", "version", "", "Show the version.", &PlayOptions::version},
+};
+
+// Every option by its group, aligned.
+QString HelpText() {
+  QString text =
+      "Usage: turnbay-play [options] PROGRAM\n"
+      "Plays a part program without a window, with default settings. - is standard input.\n";
+  for (const OptionRow& row : kOptions) {
+    if (*row.group != '\0') text += QString("\n%1:\n").arg(row.group);
+    const QString option = QString("--%1 %2").arg(row.name, row.value).trimmed();
+    text += QString("  %1 %2").arg(option, -23).arg(row.text);
+    if (*row.fallback != '\0') text += QString(" Default: %1.").arg(row.fallback);
+    text += '\n';
+  }
+  return text +
+         "\nExit status: 0 played, 1 the program can't be played, 2 wrong usage, a file that\n"
+         "can't be read or written, too little memory, or no OpenGL for --turned-part.\n";
+}
 
 // "1000x640"; empty when it isn't two whole numbers from 1 to kMaxSide.
 std::optional<PictureSize> ParseSize(const QString& text) {
@@ -27,67 +78,66 @@ ParsedOptions WrongUsage(const QString& why) {
           kWrongUsage};
 }
 
-ParsedOptions WrongSize(const QString& text) {
-  return WrongUsage(
-      QString("the size \"%1\" isn't WIDTHxHEIGHT, each from 1 to %2.").arg(text).arg(kMaxSide));
+// Takes over what was given for an option; why it can't be, or nothing. A fallback is taken over
+// too, but isn't looked at: `isSet` is false then.
+class Take {
+ public:
+  Take(PlayOptions& options, const OptionRow& row, bool isSet, const QString& value)
+      : options_(options), row_(row), isSet_(isSet), value_(value) {}
+
+  QString operator()(bool PlayOptions::*flag) const {
+    options_.*flag = isSet_;
+    return {};
+  }
+  QString operator()(std::string PlayOptions::*path) const {
+    if (isSet_ && value_.isEmpty()) {
+      return QString("--%1 needs the name of a file or a folder.").arg(row_.name);
+    }
+    options_.*path = value_.toStdString();
+    return {};
+  }
+  QString operator()(PictureSize PlayOptions::*size) const {
+    const std::optional<PictureSize> given = ParseSize(value_);
+    if (!given) {
+      return QString("the size \"%1\" isn't WIDTHxHEIGHT, each from 1 to %2.")
+          .arg(value_)
+          .arg(kMaxSide);
+    }
+    options_.*size = *given;
+    return {};
+  }
+
+ private:
+  PlayOptions& options_;
+  const OptionRow& row_;
+  bool isSet_;
+  QString value_;
+};
+
+QStringList NamesOf(const OptionRow& row) {
+  return row.name == std::string_view("help") ? QStringList{"h", "help"} : QStringList{row.name};
 }
 
 }  // namespace
 
 ParsedOptions ParsePlayOptions(const QStringList& arguments) {
   QCommandLineParser parser;
-  parser.setApplicationDescription(
-      "Plays a part program without a window, with default settings.\n"
-      "Exit status: 0 played, 1 the program can't be played, 2 wrong usage, a file that can't be "
-      "read or written, too little memory, or no OpenGL for --turned-part.");
-  const QCommandLineOption help({"h", "help"}, "Show this help.");
-  const QCommandLineOption version("version", "Show the version.");
-  const QCommandLineOption size("size", "Simulation area in pixels.", "WxH", "1000x640");
-  const QCommandLineOption tools("tools", "Tool folder; default: the program's own.", "DIR");
-  const QCommandLineOption picture("picture", "Write the simulation area after the run.",
-                                   "FILE.png");
-  const QCommandLineOption profile(
-      "profile", "Write one line a column: z in mm, radius in mm, taper mark.", "FILE.csv");
-  const QCommandLineOption turnedPart("turned-part", "Write the turned part in 3D after the run.",
-                                      "FILE.png");
-  const QCommandLineOption turnedPartSize("turned-part-size", "Size of that picture in pixels.",
-                                          "WxH", "800x600");
-  const QCommandLineOption report("report", "Write a report; - is standard output.", "FILE.json");
-  const QCommandLineOption runToBreakpoint("run-to-breakpoint",
-                                           "Play without drawing until a break point.");
-  const QCommandLineOption check("check", "Only bring the text into its layout and check it.");
-  const QCommandLineOption reformat("reformat",
-                                    "Print the program in its layout on standard output.");
-  parser.addOptions({check, reformat, help, version, size, tools, picture, profile, turnedPart,
-                     turnedPartSize, report, runToBreakpoint});
-  parser.addPositionalArgument("PROGRAM", "The part program to play; - is standard input.");
-
+  for (const OptionRow& row : kOptions) {
+    parser.addOption({NamesOf(row), row.text, row.value, row.fallback});
+  }
   if (!parser.parse(arguments)) return WrongUsage(parser.errorText());
-  if (parser.isSet(help)) return {std::nullopt, parser.helpText(), 0};
-  if (parser.isSet(version)) return {std::nullopt, "turnbay-play " TURNBAY_VERSION "\n", 0};
+  if (parser.isSet("help")) return {std::nullopt, HelpText(), 0};
+  if (parser.isSet("version")) return {std::nullopt, "turnbay-play " TURNBAY_VERSION "\n", 0};
   const QStringList programs = parser.positionalArguments();
   if (programs.size() != 1) return WrongUsage("name one program to play.");
 
   PlayOptions options;
-  for (const auto& [option, target] :
-       {std::pair{&size, &options.size}, std::pair{&turnedPartSize, &options.turnedPartSize}}) {
-    const std::optional<PictureSize> given = ParseSize(parser.value(*option));
-    if (!given) return WrongSize(parser.value(*option));
-    *target = *given;
+  for (const OptionRow& row : kOptions) {
+    const bool isSet = parser.isSet(row.name);
+    const QString value = *row.value == '\0' ? QString() : parser.value(row.name);
+    const QString fault = std::visit(Take(options, row, isSet, value), row.target);
+    if (!fault.isEmpty()) return WrongUsage(fault);
   }
-  for (const auto& [option, path] :
-       {std::pair{&tools, &options.tools}, std::pair{&picture, &options.picture},
-        std::pair{&profile, &options.profile}, std::pair{&turnedPart, &options.turnedPart},
-        std::pair{&report, &options.report}}) {
-    *path = parser.value(*option).toStdString();
-    if (path->empty() && parser.isSet(*option)) {
-      return WrongUsage(
-          QString("--%1 needs the name of a file or a folder.").arg(option->names().constFirst()));
-    }
-  }
-  options.runToBreakpoint = parser.isSet(runToBreakpoint);
-  options.check = parser.isSet(check);
-  options.reformat = parser.isSet(reformat);
   options.program = programs.first().toStdString();
   return {options, {}, 0};
 }

@@ -29,6 +29,9 @@ struct PlayOptions {
   bool check = false;
   // Print the text in its layout; don't play.
   bool reformat = false;
+  // Answered before anything is read.
+  bool help = false;
+  bool version = false;
   // "-" is standard input.
   std::string program;
 };

@@ -8,6 +8,7 @@
 #include <sys/resource.h>
 #include <sys/stat.h>
 
+#include "tests/golden.h"
 #include "tests/platform/qt/temporary_folder.h"
 
 namespace {
@@ -57,6 +58,11 @@ TEST_F(PlayerTest, WrongUsageAndUnreadableFilesEndWithTwoAndAReason) {
     EXPECT_EQ(2, Run(printing + QStringList{"good.cnc"}));
     EXPECT_TRUE(err_.contains("No space left")) << err_.toStdString();
   }
+}
+
+TEST_F(PlayerTest, HelpGroupsItsOptions) {
+  EXPECT_EQ(0, Run({"-h"}));
+  ExpectGolden("play_help", out_.toStdString());
 }
 
 TEST_F(PlayerTest, WhatIsNoOrdinaryFileIsRefusedAtOnce) {
