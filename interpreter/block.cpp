@@ -6,6 +6,7 @@
 #include "interpreter/decoder.h"
 #include "interpreter/g_functions.h"
 #include "interpreter/machine.h"
+#include "interpreter/run_observer.h"
 #include "interpreter/words.h"
 #include "mainwindow/control_surface.h"
 #include "platform/numbers.h"
@@ -14,20 +15,6 @@
 namespace ModCNC {
 
 namespace {
-
-std::optional<std::int16_t> WordValue(std::string_view digits, Scale scale) {
-  const auto number = ParseNumber(digits);
-  if (!number) return std::nullopt;
-  switch (scale) {
-    case Scale::Plain:
-      return RoundToInt16(*number);
-    case Scale::TimesTen:
-      return RoundToInt16(*number * 10);
-    case Scale::Diameter:
-      return RoundToInt16(*number / 2 * 10);
-  }
-  return std::nullopt;
-}
 
 void StoreValue(const WordRule& rule, std::string_view digits) {
   const auto value = WordValue(digits, rule.scale);
@@ -83,6 +70,20 @@ const GFunction* FindGFunction(std::optional<std::int16_t> number) {
 
 }  // namespace
 
+std::optional<std::int16_t> WordValue(std::string_view digits, Scale scale) {
+  const auto number = ParseNumber(digits);
+  if (!number) return std::nullopt;
+  switch (scale) {
+    case Scale::Plain:
+      return RoundToInt16(*number);
+    case Scale::TimesTen:
+      return RoundToInt16(*number * 10);
+    case Scale::Diameter:
+      return RoundToInt16(*number / 2 * 10);
+  }
+  return std::nullopt;
+}
+
 void ShowFeedRate() {
   frmMain::StatusBar.Panels("FeedRate").Text = "Feed: " + DecimalText(FeedRate);
 }
@@ -93,7 +94,9 @@ void MarkRadiusGiven() {
 bool ExecuteRow(std::string_view row) {
   const std::size_t comment = row.find('[');
   if (comment == 0) return false;
-  ExecuteBlock(row.substr(0, comment));
+  const std::string_view block = row.substr(0, comment);
+  if (Observer != nullptr) Observer->OnRow(block);
+  ExecuteBlock(block);
   return true;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string_view>
 
 // The language of a block as the machine executes it. A word that can't be read, or whose value
@@ -26,6 +27,9 @@ void DecodeGWord(std::string_view word);
 
 // Carries out one M word at once. `word` bears its letter. May yield.
 void DecodeMWord(std::string_view word);
+
+// Whether the number is that of an M function; all others do nothing.
+bool IsMFunction(std::int16_t number);
 
 // Runs the executor of ActiveG, if it has one. Yields, through the motion.
 void DispatchMotion();

@@ -1,5 +1,7 @@
+#include <algorithm>
 #include <array>
 #include <cstdint>
+#include <iterator>
 #include <string>
 
 #include "debugger/run_commands.h"
@@ -96,6 +98,10 @@ constexpr MFunction kMFunctions[] = {
 };
 
 }  // namespace
+
+bool IsMFunction(std::int16_t number) {
+  return std::ranges::find(kMFunctions, number, &MFunction::number) != std::end(kMFunctions);
+}
 
 void DecodeMWord(std::string_view word) {
   const auto number = ParseInt16(word.substr(1));

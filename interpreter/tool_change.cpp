@@ -18,6 +18,8 @@ namespace ModCNC {
 
 using GlobalVariables::kToolCount;
 
+std::string ToolTrouble;
+
 namespace {
 
 bool tellsOnce = false;
@@ -77,10 +79,11 @@ void ChangeTool() {
   frmToolSelect::GetToolList();
   std::string reason;
   const auto name = BitmapName(reason);
+  ToolTrouble.clear();
   if (name && LoadBitmap(*name, reason)) return;
-  const std::string text = "Tool " + DecimalText(ToolNumber) +
-                           " can't be loaded, so the tool stays as it was. " + reason;
-  if (!tellsOnce || told.insert(text).second) Desktop::ShowError(text);
+  ToolTrouble = "Tool " + DecimalText(ToolNumber) +
+                " can't be loaded, so the tool stays as it was. " + reason;
+  if (!tellsOnce || told.insert(ToolTrouble).second) Desktop::ShowError(ToolTrouble);
 }
 
 void TellToolTroubleOnce(bool once) {

@@ -4,6 +4,7 @@
 #include <array>
 #include <cstdint>
 #include <iterator>
+#include <optional>
 #include <string_view>
 
 #include "interpreter/decoder.h"
@@ -13,6 +14,9 @@
 namespace ModCNC {
 
 enum class Scale { Plain, TimesTen, Diameter };
+
+// What a register takes of the number of a word; empty when it can't be read or doesn't fit.
+std::optional<std::int16_t> WordValue(std::string_view digits, Scale scale);
 
 // Brings FeedRate to its panel.
 void ShowFeedRate();

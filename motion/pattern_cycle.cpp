@@ -20,6 +20,7 @@ std::int16_t CycleArmed;
 double ReliefZ;
 double ReliefX;
 std::int16_t CyclePasses;
+std::int16_t ContourRow = kNoRow;
 
 namespace {
 
@@ -60,17 +61,6 @@ void DisarmCycle() {
   TakeBackIncrements();
 }
 
-// The first row from `from` on that holds the sequence number anywhere in its text, also as the
-// beginning of a longer number; 0 when there is none.
-std::int16_t FindSequenceNumber(std::int16_t number, int from) {
-  const std::string wanted = 'N' + DecimalText(number);
-  for (int row = from; row < DebugWindow.Rows(); ++row) {
-    const std::string& text = DebugWindow.TextMatrix(row, frmMain::kTextColumn);
-    if (text.find(wanted) != std::string::npos) return ClipToInt16(row);
-  }
-  return 0;
-}
-
 void MoveMarkTo(std::int16_t row) {
   frmMain::RemoveHighLighting(static_cast<std::int16_t>(row - 1));
   // The mark may come from elsewhere: from the cycle's own block, or from the end of a pass.
@@ -88,7 +78,9 @@ bool RunRows(RowRange rows) {
     // A copy: the row may be edited in place while its block runs.
     // NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
     const std::string text = DebugWindow.TextMatrix(row, frmMain::kTextColumn);
+    ContourRow = static_cast<std::int16_t>(row);
     ExecuteRow(text);
+    ContourRow = kNoRow;
   }
   return GlobalVariables::StopRequested != kTrue;
 }
@@ -131,8 +123,9 @@ void RunCycle(std::int16_t startX, std::int16_t startZ) {
   CycleOffsetX = ReliefX;
   CycleOffsetZ = ReliefZ;
   RowRange rows;
-  rows.first = FindSequenceNumber(WordP, 0);
-  rows.last = FindSequenceNumber(WordQ, rows.first + 1);
+  // A number that stands nowhere counts as that of the first row.
+  rows.first = FindSequenceNumber(WordP, 0).value_or(0);
+  rows.last = FindSequenceNumber(WordQ, rows.first + 1).value_or(0);
   if (RunPasses(rows, startX, startZ)) GlobalVariables::CurrentRow = rows.last;
   CycleOffsetX = 0;
   CycleOffsetZ = 0;
@@ -142,6 +135,15 @@ void RunCycle(std::int16_t startX, std::int16_t startZ) {
 }
 
 }  // namespace
+
+std::optional<std::int16_t> FindSequenceNumber(std::int16_t number, int from) {
+  const std::string wanted = 'N' + DecimalText(number);
+  for (int row = from; row < DebugWindow.Rows(); ++row) {
+    const std::string& text = DebugWindow.TextMatrix(row, frmMain::kTextColumn);
+    if (text.find(wanted) != std::string::npos) return ClipToInt16(row);
+  }
+  return std::nullopt;
+}
 
 void ExecuteG73() {
   if (CycleArmed == kFalse) {
@@ -157,6 +159,7 @@ void ResetPatternCycle() {
   ReliefZ = 0;
   ReliefX = 0;
   CyclePasses = 0;
+  ContourRow = kNoRow;
   TellToolTroubleOnce(false);
   cycleRunning = false;
   markedRow = 0;

@@ -4,6 +4,7 @@
 #include <cstdlib>
 
 #include "interpreter/machine.h"
+#include "interpreter/run_observer.h"
 #include "mainwindow/control_surface.h"
 #include "motion/stock.h"
 #include "platform/host/desktop.h"
@@ -69,6 +70,9 @@ void YieldByClock() {
 }
 
 void PlayPath() {
+  if (ModCNC::Observer != nullptr && GlobalVariables::StopRequested != kTrue) {
+    ModCNC::Observer->OnMove();
+  }
   const std::size_t count = PathPoints.size();
   for (std::size_t i = 0; i < count; ++i) {
     if (!WaitWhilePaused()) return;
