@@ -1,0 +1,360 @@
+#include "inspection/inspector.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "interpreter/machine.h"
+#include "interpreter/run_driver.h"
+#include "interpreter/tool_change.h"
+#include "mainwindow/control_surface.h"
+#include "motion/pattern_cycle.h"
+#include "motion/player.h"
+#include "motion/stock.h"
+#include "platform/numbers.h"
+
+namespace Inspection {
+
+using frmMain::DebugWindow;
+using GlobalVariables::BilletZ;
+
+namespace {
+
+// How far beyond the centre line a cut may go, in stock units: a face is often ended a little
+// behind the centre.
+constexpr int kBeyondCentre = 5;
+
+std::string Millimetres(int units) {
+  return NumberText(units / 10.0);
+}
+
+// As it is programmed: X is a diameter.
+std::string Position(int z, int x) {
+  return 'X' + Millimetres(2 * x) + " Z" + Millimetres(z);
+}
+
+const std::string& RowText(int row) {
+  return DebugWindow.TextMatrix(row, frmMain::kTextColumn);
+}
+
+bool IsPanel(frmMain::PanelKey key, std::string_view text) {
+  return frmMain::StatusBar.Panels(key).Text.Get() == text;
+}
+
+bool HasNoDirection() {
+  return IsPanel("SpindleDirection", "");
+}
+
+std::string Written(std::span<const Word> words) {
+  std::string text;
+  for (const Word& word : words) {
+    if (word.Letter() != 'N') text += (text.empty() ? "" : " ") + std::string(word.text);
+  }
+  return text.empty() ? "A block without words" : text;
+}
+
+const Word* FindLetter(std::span<const Word> words, char letter) {
+  const auto found = std::ranges::find(words, letter, &Word::Letter);
+  return found == words.end() ? nullptr : &*found;
+}
+
+// The number of a P or Q word, as the cycle takes it.
+std::optional<std::int16_t> SequenceNumber(const Word& word) {
+  const auto number = ParseNumber(word.Number());
+  const auto tenfold = number ? RoundToInt16(*number * 10) : std::nullopt;
+  return tenfold ? RoundToInt16(*tenfold / 10.0) : std::nullopt;
+}
+
+bool BearsNumber(int row, std::int16_t number) {
+  const std::string_view text = RowText(row);
+  const std::string wanted = 'N' + DecimalText(number);
+  return std::ranges::any_of(WordsOf(text.substr(0, text.find('['))),
+                             [&](const Word& word) { return word.text == wanted; });
+}
+
+int RowInPlay() {
+  return GCodes::ContourRow != GCodes::kNoRow ? GCodes::ContourRow : GlobalVariables::CurrentRow;
+}
+
+}  // namespace
+
+Inspector::Inspector(double rapidRate) : machining_(rapidRate) {
+  ModCNC::Observer = this;
+}
+
+Inspector::~Inspector() {
+  ModCNC::Observer = nullptr;
+}
+
+void Inspector::StartWithBillet() {
+  if (std::exchange(hasBillet_, true) || Graphics::StockProfile.empty()) return;
+  billetRadius_ = Graphics::StockProfile.front().Radius;
+  part_ = MachinedPart(Graphics::StockProfile.size(), billetRadius_);
+  part_.TakeToolShape();
+}
+
+void Inspector::Add(Place place, const char* key, const std::string& text,
+                    std::vector<Figure> figures) {
+  findings_.try_emplace({place.row, place.column, key},
+                        Finding{place.row, place.column, key, text, std::move(figures)});
+}
+
+void Inspector::OnRow(std::string_view block) {
+  StartWithBillet();
+  SettleToolChange();
+  row_ = RowInPlay();
+  const std::vector<Word> words = WordsOf(block);
+  const std::int16_t function = ModalFunction(words, ModCNC::ActiveG);
+  hasFeedWord_ |= HasLetter(words, "F");
+  wordUse_.OnRow(row_, words, function);
+  JudgeFunctions(words);
+  JudgeToolWords(words);
+  if (EndsRun(words)) {
+    endRow_ = row_;
+    return;
+  }
+  JudgeRepetition(words, function);
+  if (function == 73 && GCodes::CycleArmed != kFalse) JudgeSecondBlock(words);
+}
+
+void Inspector::JudgeFunctions(std::span<const Word> words) {
+  for (const Word& word : words) {
+    const ModCNC::GFunction* function = FunctionOf(word);
+    if (function == nullptr || function->executor != nullptr || function->unit != nullptr) continue;
+    Add({row_, word.offset}, "not-simulated",
+        std::string(word.text) +
+            " is accepted but not simulated: nothing moves until the next G00, G01 or other G word "
+            "of motion. Write one into the next block that is to move.");
+  }
+}
+
+void Inspector::JudgeToolWords(std::span<const Word> words) {
+  const bool changes = HasWord(words, 'M', 6);
+  for (const Word& word : words) {
+    if (word.Letter() != 'T') continue;
+    JudgePendingTool();
+    pendingTool_ = {{row_, word.offset}, std::string(word.text), ParseInt16(word.Number())};
+  }
+  if (!changes) return;
+  pendingTool_.reset();
+  const auto change =
+      std::ranges::find_if(words, [](const Word& word) { return IsWord(word, 'M', 6); });
+  toolChange_ = {row_, change->offset};
+  // The volume so far is that of the tool that goes.
+  machining_.AddVolume(RemovedVolume(billetRadius_));
+}
+
+void Inspector::JudgePendingTool() {
+  if (!pendingTool_ || pendingTool_->number == loadedTool_) return;
+  Add(pendingTool_->place, "tool-not-changed",
+      pendingTool_->text + " loads no tool: no M06 follows it. Write " + pendingTool_->text +
+          " M06, or take it out.");
+}
+
+void Inspector::SettleToolChange() {
+  if (!toolChange_) return;
+  if (ModCNC::ToolTrouble.empty()) {
+    loadedTool_ = ModCNC::ToolNumber;
+    machining_.ChangeTool(ModCNC::ToolNumber);
+    part_.TakeToolShape();
+  } else {
+    Add(*toolChange_, "tool-not-loaded", ModCNC::ToolTrouble);
+  }
+  toolChange_.reset();
+}
+
+void Inspector::JudgeRepetition(std::span<const Word> words, std::int16_t function) {
+  if (std::ranges::any_of(words, IsModalWord) || HasLetter(words, "XZUWR")) return;
+  const std::string what = Written(words);
+  if (function == 90 || function == 94) {
+    Add({row_, 0}, "cycle-repeated",
+        what + " runs the whole cycle " + GName(function) +
+            " once more, as every block does while it is modal. Put it ahead of the cycle, or "
+            "behind a block with G00.");
+  }
+  const bool isArrived = ModCNC::TargetX == ModCNC::CurrentX && ModCNC::TargetZ == ModCNC::CurrentZ;
+  if ((function == 2 || function == 3) && !isArrived) {
+    Add({row_, 0}, "arc-repeated",
+        what + " tries the arc of " + GName(function) +
+            " once more, which has not come to its end. Give that arc a radius that fits.");
+  }
+}
+
+void Inspector::JudgeSecondBlock(std::span<const Word> words) {
+  if (!HasLetter(words, "PQ") && !HasWord(words, 'G', 73)) {
+    Add({row_, 0}, "pattern-interrupted",
+        Written(words) +
+            " stands between the two blocks of G73 and counts as the second one. Put it ahead of "
+            "the first.");
+    return;
+  }
+  const std::optional<int> first = JudgeSequenceNumber(words, 'P', 0);
+  JudgeSequenceNumber(words, 'Q', first.value_or(0) + 1);
+}
+
+std::optional<int> Inspector::JudgeSequenceNumber(std::span<const Word> words, char letter,
+                                                  int from) {
+  const Word* word = FindLetter(words, letter);
+  const auto number = word != nullptr ? SequenceNumber(*word) : std::nullopt;
+  const std::string role = letter == 'P' ? "first" : "last";
+  if (!number) {
+    Add({row_, 0}, letter == 'P' ? "pattern-first-row" : "pattern-last-row",
+        "The second block of G73 has no " + std::string(1, letter) + ". Name the " + role +
+            " row of the contour by its N number.");
+    return std::nullopt;
+  }
+  const Place place{row_, word->offset};
+  const char* key = letter == 'P' ? "pattern-first-row" : "pattern-last-row";
+  const std::string wanted = 'N' + DecimalText(*number);
+  const auto row = GCodes::FindSequenceNumber(*number, from);
+  if (!row) {
+    Add(place, key,
+        std::string(word->text) + ": no row" +
+            (from > 0 ? " behind the first of the contour" : "") + " bears " + wanted +
+            ". Give the " + role + " row of the contour that number.");
+  } else if (!BearsNumber(*row, *number)) {
+    const std::string& text = RowText(*row);
+    const std::size_t found = text.find(wanted);
+    const bool isComment = text.find('[') < found;
+    const std::string holder = text.substr(found, text.find(' ', found) - found);
+    Add(place, key,
+        std::string(word->text) + " finds " + wanted + " " +
+            (isComment ? "in the comment of row " + DecimalText(*row + 1) : "inside " + holder) +
+            ", the first text that holds it. Number the " + role +
+            " row of the contour so that none above holds its number.");
+  }
+  return row;
+}
+
+void Inspector::OnMove() {
+  StartWithBillet();
+  SettleToolChange();
+  row_ = RowInPlay();
+  machining_.AddMove();
+  const bool isRapid = GCodes::RapidMove == kTrue;
+  if (!isRapid) wordUse_.OnFeed();
+  Cut cut;
+  std::optional<int> clampedX;
+  std::optional<std::pair<int, int>> beyond;
+  std::optional<std::pair<int, int>> last;
+  for (const GCodes::PathPoint& point : GCodes::PathPoints) {
+    const int z = RoundToPixel(GCodes::CycleOffsetZ + point.Z);
+    const int x = RoundToPixel(GCodes::CycleOffsetX + point.X);
+    const int depth = part_.DepthAt(z, x);
+    // It meets the part where it is clear for the last time.
+    if (depth > 0 && cut.depth == 0) std::tie(cut.z, cut.x) = last.value_or(std::pair{z, x});
+    cut.depth = std::max(cut.depth, depth);
+    last = {z, x};
+    if (isRapid) {
+      part_.TakePoint(z, x);
+      continue;
+    }
+    part_.TakeShape(z, x);
+    if (depth > 0 && part_.IsLastColumn(z)) clampedX = x;
+    if (part_.ColumnAt(z) && x < std::min(-kBeyondCentre, beyond ? beyond->second : 0)) {
+      beyond = {z, x};
+    }
+  }
+  tool_ = last;
+  if (cut.depth > 0) isRapid ? JudgeRapid(cut) : JudgeFeed(cut);
+  if (clampedX) {
+    Add({row_, 0}, "clamped-end",
+        "The cut reaches the clamped end of the billet, Z" + Millimetres(-BilletZ) +
+            ", where the chuck holds it. End it before, or name a longer billet.",
+        {{"x", 2 * *clampedX / 10.0}, {"z", -BilletZ / 10.0}});
+  }
+  if (beyond) {
+    const auto [z, x] = *beyond;
+    Add({row_, 0}, "centre-crossed",
+        "The cut crosses the centre line at Z" + Millimetres(z) + " and goes on to X" +
+            Millimetres(2 * x) + ". End it at X0.",
+        {{"x", 2 * x / 10.0}, {"z", z / 10.0}});
+  }
+}
+
+namespace {
+
+std::string Meeting(int z, int x, int depth) {
+  return "meets the part at " + Position(z, x) + " and goes " + Millimetres(depth) + " mm deep";
+}
+
+}  // namespace
+
+void Inspector::JudgeRapid(const Cut& cut) {
+  Add({row_, 0}, "rapid-cut",
+      "A rapid move of " + GName(ModCNC::ActiveG) + " takes material: it " +
+          Meeting(cut.z, cut.x, cut.depth) + ". Go round the part, or cut with G01.",
+      {{"x", 2 * cut.x / 10.0}, {"z", cut.z / 10.0}, {"depth", cut.depth / 10.0}});
+}
+
+void Inspector::JudgeFeed(const Cut& cut) {
+  const std::vector<Figure> figures = {
+      {"x", 2 * cut.x / 10.0}, {"z", cut.z / 10.0}, {"depth", cut.depth / 10.0}};
+  const std::string meeting = Meeting(cut.z, cut.x, cut.depth);
+  if (HasNoDirection() || ModCNC::SpindleSpeed <= 0) {
+    const bool lacksSpeed = !HasNoDirection();
+    Add({row_, 0}, "spindle-at-rest",
+        "A feed move takes material with the spindle at " +
+            std::string(lacksSpeed ? "S 0" : "rest") + ": it " + meeting + ". " +
+            (lacksSpeed ? "Name a speed, such as S800, with the M word that starts it."
+                        : "Start it before, such as by S800 M03."),
+        figures);
+  }
+  if (ModCNC::FeedRate <= 0) {
+    Add({row_, 0}, "no-feed",
+        std::string("A feed move takes material ") +
+            (hasFeedWord_ ? "with a feed of 0, for F is taken as whole mm a minute"
+                          : "before any F") +
+            ": it " + meeting + ". Name the feed in mm a minute, such as F200.",
+        figures);
+  }
+}
+
+void Inspector::Finish() {
+  SettleToolChange();
+  machining_.AddVolume(RemovedVolume(billetRadius_));
+  JudgePendingTool();
+  JudgeEnd();
+  JudgeBilletLines();
+  for (const Finding& finding : wordUse_.Findings()) {
+    Add({finding.row, finding.column}, finding.key, finding.text);
+  }
+}
+
+void Inspector::JudgeEnd() {
+  const Place end{endRow_.value_or(std::max(0, DebugWindow.Rows() - 1)), 0};
+  if (!endRow_) {
+    Add(end, "no-end", "The program ends without M02 or M30. Write M30 into its last block.");
+  }
+  if (!HasNoDirection()) {
+    Add(end, "spindle-on", "The program ends with the spindle on. Stop it before, by M05.");
+  }
+  if (IsPanel("Coolant", "Coolant: ON")) {
+    Add(end, "coolant-on", "The program ends with the coolant on. Turn it off before, by M09.");
+  }
+  if (tool_ && part_.Holds(tool_->first, tool_->second)) {
+    Add(end, "tool-in-part",
+        "The program ends with the tool inside the part, at " +
+            Position(tool_->first, tool_->second) + ". Move it clear before, such as by G00.",
+        {{"x", 2 * tool_->second / 10.0}, {"z", tool_->first / 10.0}});
+  }
+}
+
+void Inspector::JudgeBilletLines() {
+  bool hasOne = false;
+  for (int row = 0; row < DebugWindow.Rows(); ++row) {
+    const std::size_t mark = RowText(row).find(ModCNC::kBilletMark);
+    if (mark == std::string::npos) continue;
+    if (std::exchange(hasOne, true)) {
+      Add({row, mark}, "billet-lines",
+          "This is one more billet line; only the first of the program counts. Take it out.");
+    }
+  }
+}
+
+std::vector<Finding> Inspector::Findings() const {
+  std::vector<Finding> findings;
+  for (const auto& [place, finding] : findings_) findings.push_back(finding);
+  return findings;
+}
+
+}  // namespace Inspection

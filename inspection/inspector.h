@@ -1,0 +1,98 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <map>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <tuple>
+#include <vector>
+
+#include "inspection/block_words.h"
+#include "inspection/finding.h"
+#include "inspection/machined_part.h"
+#include "inspection/machining.h"
+#include "inspection/word_use.h"
+#include "interpreter/run_observer.h"
+
+namespace Inspection {
+
+// Observes one run, from its making until Finish.
+class Inspector : public ModCNC::RunObserver {
+ public:
+  // `rapidRate` in mm/min, above 0. Becomes the Observer.
+  explicit Inspector(double rapidRate);
+  ~Inspector() override;
+  Inspector(const Inspector&) = delete;
+  Inspector& operator=(const Inspector&) = delete;
+
+  void OnRow(std::string_view block) override;
+  void OnMove() override;
+
+  // After the run: judges how it ended. Once.
+  void Finish();
+
+  // In the order of the program, one for each row and cause.
+  std::vector<Finding> Findings() const;
+  const Machining& Done() const { return machining_; }
+
+ private:
+  struct Place {
+    int row = 0;
+    std::size_t column = 0;
+  };
+  // Where a move meets the part, and how deep it goes: stock units.
+  struct Cut {
+    int z = 0;
+    int x = 0;
+    int depth = 0;
+  };
+
+  void StartWithBillet();
+  void Add(Place place, const char* key, const std::string& text, std::vector<Figure> figures = {});
+  void SettleToolChange();
+  void JudgeToolWords(std::span<const Word> words);
+  void JudgeFunctions(std::span<const Word> words);
+  void JudgeRepetition(std::span<const Word> words, std::int16_t function);
+  void JudgeSecondBlock(std::span<const Word> words);
+  // The row of a number of the second block, the first from `from` on; empty when there is none.
+  std::optional<int> JudgeSequenceNumber(std::span<const Word> words, char letter, int from);
+  void JudgeRapid(const Cut& cut);
+  void JudgeFeed(const Cut& cut);
+  void JudgePendingTool();
+  void JudgeEnd();
+  void JudgeBilletLines();
+
+  Machining machining_;
+  MachinedPart part_;
+  WordUse wordUse_;
+  int billetRadius_ = 0;
+  bool hasBillet_ = false;
+
+  // By row, column and key.
+  std::map<std::tuple<int, std::size_t, std::string_view>, Finding> findings_;
+
+  // The row that is carried out.
+  int row_ = 0;
+  // Where the tool came to last, as it is played.
+  std::optional<std::pair<int, int>> tool_;
+
+  // A T word that no M06 has followed yet.
+  struct ToolWord {
+    Place place;
+    std::string text;
+    std::optional<std::int16_t> number;
+  };
+  std::optional<ToolWord> pendingTool_;
+  std::optional<std::int16_t> loadedTool_;
+  // An M06 whose outcome hasn't been looked at.
+  std::optional<Place> toolChange_;
+
+  bool hasFeedWord_ = false;
+  // The row that ended the run.
+  std::optional<int> endRow_;
+};
+
+}  // namespace Inspection
