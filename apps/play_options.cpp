@@ -4,6 +4,8 @@
 #include <string_view>
 #include <variant>
 
+#include "platform/numbers.h"
+
 namespace {
 
 constexpr int kWrongUsage = 2;
@@ -16,7 +18,9 @@ struct OptionRow {
   // What stands behind the option in --help; empty: it takes no value.
   const char* value;
   const char* text;
-  std::variant<bool PlayOptions::*, std::string PlayOptions::*, PictureSize PlayOptions::*> target;
+  std::variant<bool PlayOptions::*, double PlayOptions::*, std::string PlayOptions::*,
+               PictureSize PlayOptions::*>
+      target;
   const char* fallback = "";
 };
 
@@ -25,6 +29,10 @@ constexpr OptionRow kOptions[] = {
     {"", "tools", "DIR", "Tool folder; default: the program's own.", &PlayOptions::tools},
     {"", "run-to-breakpoint", "", "Play without drawing until a break point.",
      &PlayOptions::runToBreakpoint},
+    {"Judging the program", "inspect", "", "Warn of what a machinist would not accept.",
+     &PlayOptions::inspect},
+    {"", "rapid-rate", "MM/MIN", "Speed of rapid moves for its times.", &PlayOptions::rapidRate,
+     "5000"},
     {"Instead of playing", "check", "", "Only bring the text into its layout and check it.",
      &PlayOptions::check},
     {"", "reformat", "", "Print the program in its layout on standard output.",
@@ -42,6 +50,15 @@ constexpr OptionRow kOptions[] = {
     {"", "version", "", "Show the version.", &PlayOptions::version},
 };
 
+struct Pair {
+  const char* option;
+  const char* other;
+};
+
+// What has no sense without another option, and what has none together with another.
+constexpr Pair kNeeds[] = {{"rapid-rate", "inspect"}};
+constexpr Pair kExcludes[] = {{"inspect", "check"}, {"inspect", "reformat"}};
+
 // Every option by its group, aligned.
 QString HelpText() {
   QString text =
@@ -56,7 +73,8 @@ QString HelpText() {
   }
   return text +
          "\nExit status: 0 played, 1 the program can't be played, 2 wrong usage, a file that\n"
-         "can't be read or written, too little memory, or no OpenGL for --turned-part.\n";
+         "can't be read or written, too little memory, or no OpenGL for --turned-part,\n"
+         "3 findings of --inspect.\n";
 }
 
 // "1000x640"; empty when it isn't two whole numbers from 1 to kMaxSide.
@@ -96,6 +114,15 @@ class Take {
     options_.*path = value_.toStdString();
     return {};
   }
+  QString operator()(double PlayOptions::*number) const {
+    const std::optional<double> given = ParseNumber(value_.toStdString());
+    if (!given || *given <= 0) {
+      return QString("--%1 needs a number above 0, such as %2, not \"%3\".")
+          .arg(row_.name, row_.fallback, value_);
+    }
+    options_.*number = *given;
+    return {};
+  }
   QString operator()(PictureSize PlayOptions::*size) const {
     const std::optional<PictureSize> given = ParseSize(value_);
     if (!given) {
@@ -130,6 +157,17 @@ ParsedOptions ParsePlayOptions(const QStringList& arguments) {
   if (parser.isSet("version")) return {std::nullopt, "turnbay-play " TURNBAY_VERSION "\n", 0};
   const QStringList programs = parser.positionalArguments();
   if (programs.size() != 1) return WrongUsage("name one program to play.");
+
+  for (const auto& [option, other] : kNeeds) {
+    if (parser.isSet(option) && !parser.isSet(other)) {
+      return WrongUsage(QString("--%1 needs --%2.").arg(option, other));
+    }
+  }
+  for (const auto& [option, other] : kExcludes) {
+    if (parser.isSet(option) && parser.isSet(other)) {
+      return WrongUsage(QString("--%1 and --%2 exclude each other.").arg(option, other));
+    }
+  }
 
   PlayOptions options;
   for (const OptionRow& row : kOptions) {

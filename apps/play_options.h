@@ -24,6 +24,10 @@ struct PlayOptions {
   std::string turnedPart;
   // "-" is standard output.
   std::string report;
+  // Find out what the program may not mean, and what it does.
+  bool inspect = false;
+  // In mm/min, above 0.
+  double rapidRate = 0;
   bool runToBreakpoint = false;
   // Bring the text into its layout and check it; don't play.
   bool check = false;

@@ -135,6 +135,9 @@ QByteArray ReportJson(const PlayOutcome& outcome) {
       {"surface_sha256", SurfaceHash(Graphics::StockDC.Read())},
   };
   if (!outcome.warnings.empty()) report["warnings"] = WarningsJson(outcome.warnings);
+  for (auto it = outcome.inspection.begin(); it != outcome.inspection.end(); ++it) {
+    report[it.key()] = it.value();
+  }
   return QJsonDocument(report).toJson();
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QJsonObject>
 #include <string>
 #include <vector>
 
@@ -25,6 +26,8 @@ struct PlayOutcome {
   // How often a paused run was resumed.
   int resumes = 0;
   std::vector<PlayWarning> warnings{};
+  // Members of the report; none when no inspection was asked for.
+  QJsonObject inspection{};
 };
 
 // Both that make a picture throw std::bad_alloc.

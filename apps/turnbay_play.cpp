@@ -5,11 +5,13 @@
 #include <cstdio>
 #include <filesystem>
 #include <new>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <unistd.h>
 #include <vector>
 
+#include "apps/play_inspection.h"
 #include "apps/play_options.h"
 #include "apps/play_report.h"
 #include "apps/turned_part_picture.h"
@@ -43,6 +45,7 @@ using GlobalVariables::RunOutcome;
 constexpr int kPlayed = 0;
 constexpr int kNotPlayable = 1;
 constexpr int kFileTrouble = 2;
+constexpr int kFindings = 3;
 
 int resumes = 0;
 
@@ -200,12 +203,27 @@ bool WriteResults(const PlayOptions& options, const PlayOutcome& outcome) {
   return written;
 }
 
+// Tells the findings and what was done. Returns whether there are findings.
+bool TellInspection(const PlayOptions& options, const Inspection::Inspector& inspector,
+                    std::string_view source, PlayOutcome& outcome) {
+  const auto findings = PlaceFindings(inspector, outcome.warnings, source);
+  // They are findings now.
+  outcome.warnings.clear();
+  outcome.inspection = InspectionJson(findings, inspector.Done());
+  for (const PlacedFinding& finding : findings) {
+    SayAt(options, finding.place, "warning: " + finding.text);
+  }
+  return !findings.empty();
+}
+
 int Run(const PlayOptions& options) {
   StartUp(options);
   if (!LoadProgram(options.program)) return kFileTrouble;
   const std::string source = frmMain::TextEditor().Text();
 
   PlayOutcome outcome;
+  std::optional<Inspection::Inspector> inspector;
+  if (options.inspect) inspector.emplace(options.rapidRate);
   if (options.check || options.reformat) {
     frmMain::ReformatText(frmMain::TextEditor());
     if (options.reformat && !PrintProgram()) return kFileTrouble;
@@ -215,14 +233,17 @@ int Run(const PlayOptions& options) {
   } else {
     Play(options.runToBreakpoint);
     outcome.run = GlobalVariables::LastRun;
+    if (inspector) inspector->Finish();
   }
   const bool hasFault = outcome.run == RunOutcome::SyntaxFault;
+  bool hasFindings = false;
   const bool lacksBillet = outcome.run == RunOutcome::NoBillet;
   if (hasFault || lacksBillet) {
     const std::size_t offset = hasFault ? frmMain::TextEditor().SelStart() : BilletOffset();
     SayAt(options, PlaceOf(source, offset), Windowless::Messages().back().text);
   } else {
     outcome.warnings = BilletWarnings(source);
+    if (inspector) hasFindings = TellInspection(options, *inspector, source, outcome);
   }
   for (const auto& [text, place] : outcome.warnings) SayAt(options, place, "warning: " + text);
   // A fault has been shown in the editor, which takes its place from the simulation area.
@@ -232,7 +253,9 @@ int Run(const PlayOptions& options) {
   outcome.text = frmMain::TextEditor().Text();
   outcome.resumes = resumes;
   if (!WriteResults(options, outcome)) return kFileTrouble;
-  return hasFault || lacksBillet ? kNotPlayable : kPlayed;
+  if (hasFault || lacksBillet) return kNotPlayable;
+  if (inspector) Say(MachiningLine(inspector->Done()));
+  return hasFindings ? kFindings : kPlayed;
 }
 
 }  // namespace

@@ -32,6 +32,15 @@ std::string Position(int z, int x) {
   return 'X' + Millimetres(2 * x) + " Z" + Millimetres(z);
 }
 
+std::string Meeting(int z, int x, int depth) {
+  return "it meets the part at " + Position(z, x) + " and goes " + Millimetres(depth) +
+         " mm deep. ";
+}
+
+std::vector<Figure> Figures(int z, int x) {
+  return {{"x", 2 * x / 10.0}, {"z", z / 10.0}};
+}
+
 const std::string& RowText(int row) {
   return DebugWindow.TextMatrix(row, frmMain::kTextColumn);
 }
@@ -40,16 +49,41 @@ bool IsPanel(frmMain::PanelKey key, std::string_view text) {
   return frmMain::StatusBar.Panels(key).Text.Get() == text;
 }
 
-bool HasNoDirection() {
-  return IsPanel("SpindleDirection", "");
+bool IsSpindleOn() {
+  return !IsPanel("SpindleDirection", "");
 }
+
+bool IsCoolantOn() {
+  return IsPanel("Coolant", "Coolant: ON");
+}
+
+// What M words ahead of the end of the run in its own block make of what was on.
+bool IsOnAtEnd(bool isOn, std::span<const Word> words, std::span<const std::int16_t> starts,
+               std::int16_t stop) {
+  for (const Word& word : words) {
+    if (IsWord(word, 'M', 2) || IsWord(word, 'M', 30)) break;
+    if (IsWord(word, 'M', stop)) isOn = false;
+    if (std::ranges::any_of(starts, [&](auto start) { return IsWord(word, 'M', start); })) {
+      isOn = true;
+    }
+  }
+  return isOn;
+}
+
+constexpr std::int16_t kSpindleStarts[] = {3, 4, 13, 14};
+constexpr std::int16_t kSpindleStop = 5;
+constexpr std::int16_t kCoolantStarts[] = {8, 13, 14};
+constexpr std::int16_t kCoolantStop = 9;
 
 std::string Written(std::span<const Word> words) {
   std::string text;
   for (const Word& word : words) {
-    if (word.Letter() != 'N') text += (text.empty() ? "" : " ") + std::string(word.text);
+    if (word.Letter() == 'N') continue;
+    if (!text.empty()) text += ' ';
+    text += word.text;
   }
-  return text.empty() ? "A block without words" : text;
+  if (text.empty()) text = "A block without words";
+  return text;
 }
 
 const Word* FindLetter(std::span<const Word> words, char letter) {
@@ -109,7 +143,9 @@ void Inspector::OnRow(std::string_view block) {
   JudgeFunctions(words);
   JudgeToolWords(words);
   if (EndsRun(words)) {
-    endRow_ = row_;
+    // M30 turns the coolant off, so the panels of a run that is over tell nothing.
+    end_ = {row_, IsOnAtEnd(IsSpindleOn(), words, kSpindleStarts, kSpindleStop),
+            IsOnAtEnd(IsCoolantOn(), words, kCoolantStarts, kCoolantStop)};
     return;
   }
   JudgeRepetition(words, function);
@@ -232,80 +268,80 @@ void Inspector::OnMove() {
   machining_.AddMove();
   const bool isRapid = GCodes::RapidMove == kTrue;
   if (!isRapid) wordUse_.OnFeed();
+  const Cut cut = Walk(isRapid);
+  if (isRapid) {
+    JudgeRapid(cut);
+  } else {
+    JudgeFeed(cut);
+  }
+}
+
+Inspector::Cut Inspector::Walk(bool isRapid) {
   Cut cut;
-  std::optional<int> clampedX;
-  std::optional<std::pair<int, int>> beyond;
-  std::optional<std::pair<int, int>> last;
-  for (const GCodes::PathPoint& point : GCodes::PathPoints) {
-    const int z = RoundToPixel(GCodes::CycleOffsetZ + point.Z);
-    const int x = RoundToPixel(GCodes::CycleOffsetX + point.X);
-    const int depth = part_.DepthAt(z, x);
+  // The tool stands at the first point already; an arc may have ended a little before it.
+  MachinedPart before;
+  Point last;
+  for (std::size_t i = 0; i < GCodes::PathPoints.size(); ++i) {
+    const GCodes::PathPoint& point = GCodes::PathPoints[i];
+    const Point now = {RoundToPixel(GCodes::CycleOffsetZ + point.Z),
+                       RoundToPixel(GCodes::CycleOffsetX + point.X)};
+    const int depth = i == 0 ? 0 : before.DepthAt(now.z, now.x);
     // It meets the part where it is clear for the last time.
-    if (depth > 0 && cut.depth == 0) std::tie(cut.z, cut.x) = last.value_or(std::pair{z, x});
+    if (depth > 0 && cut.depth == 0) cut.meeting = last;
     cut.depth = std::max(cut.depth, depth);
-    last = {z, x};
+    cut.reachesClampedEnd |= depth > 0 && part_.IsLastColumn(now.z);
+    if (part_.ColumnAt(now.z) && now.x < std::min(0, cut.lowest.x)) cut.lowest = now;
     if (isRapid) {
-      part_.TakePoint(z, x);
-      continue;
+      part_.TakePoint(now.z, now.x);
+    } else {
+      part_.TakeShape(now.z, now.x);
     }
-    part_.TakeShape(z, x);
-    if (depth > 0 && part_.IsLastColumn(z)) clampedX = x;
-    if (part_.ColumnAt(z) && x < std::min(-kBeyondCentre, beyond ? beyond->second : 0)) {
-      beyond = {z, x};
-    }
+    if (i == 0) before = part_;
+    last = now;
   }
   tool_ = last;
-  if (cut.depth > 0) isRapid ? JudgeRapid(cut) : JudgeFeed(cut);
-  if (clampedX) {
-    Add({row_, 0}, "clamped-end",
-        "The cut reaches the clamped end of the billet, Z" + Millimetres(-BilletZ) +
-            ", where the chuck holds it. End it before, or name a longer billet.",
-        {{"x", 2 * *clampedX / 10.0}, {"z", -BilletZ / 10.0}});
-  }
-  if (beyond) {
-    const auto [z, x] = *beyond;
-    Add({row_, 0}, "centre-crossed",
-        "The cut crosses the centre line at Z" + Millimetres(z) + " and goes on to X" +
-            Millimetres(2 * x) + ". End it at X0.",
-        {{"x", 2 * x / 10.0}, {"z", z / 10.0}});
-  }
+  return cut;
 }
 
-namespace {
-
-std::string Meeting(int z, int x, int depth) {
-  return "meets the part at " + Position(z, x) + " and goes " + Millimetres(depth) + " mm deep";
+void Inspector::AddCut(const Cut& cut, const char* key, const std::string& what,
+                       const std::string& advice) {
+  const auto [z, x] = cut.meeting;
+  std::vector<Figure> figures = Figures(z, x);
+  figures.push_back({"depth", cut.depth / 10.0});
+  Add({row_, 0}, key, what + ": " + Meeting(z, x, cut.depth) + advice, std::move(figures));
 }
-
-}  // namespace
 
 void Inspector::JudgeRapid(const Cut& cut) {
-  Add({row_, 0}, "rapid-cut",
-      "A rapid move of " + GName(ModCNC::ActiveG) + " takes material: it " +
-          Meeting(cut.z, cut.x, cut.depth) + ". Go round the part, or cut with G01.",
-      {{"x", 2 * cut.x / 10.0}, {"z", cut.z / 10.0}, {"depth", cut.depth / 10.0}});
+  if (cut.depth == 0) return;
+  AddCut(cut, "rapid-cut", "A rapid move of " + GName(ModCNC::ActiveG) + " takes material",
+         "Go round the part, or cut with G01.");
 }
 
 void Inspector::JudgeFeed(const Cut& cut) {
-  const std::vector<Figure> figures = {
-      {"x", 2 * cut.x / 10.0}, {"z", cut.z / 10.0}, {"depth", cut.depth / 10.0}};
-  const std::string meeting = Meeting(cut.z, cut.x, cut.depth);
-  if (HasNoDirection() || ModCNC::SpindleSpeed <= 0) {
-    const bool lacksSpeed = !HasNoDirection();
-    Add({row_, 0}, "spindle-at-rest",
-        "A feed move takes material with the spindle at " +
-            std::string(lacksSpeed ? "S 0" : "rest") + ": it " + meeting + ". " +
-            (lacksSpeed ? "Name a speed, such as S800, with the M word that starts it."
-                        : "Start it before, such as by S800 M03."),
-        figures);
+  if (cut.depth > 0 && !IsSpindleOn()) {
+    AddCut(cut, "spindle-at-rest", "A feed move takes material with the spindle at rest",
+           "Start it before, such as by S800 M03.");
+  } else if (cut.depth > 0 && ModCNC::SpindleSpeed <= 0) {
+    AddCut(cut, "spindle-at-rest", "A feed move takes material with the spindle at S 0",
+           "Name a speed, such as S800, in the block that starts it.");
   }
-  if (ModCNC::FeedRate <= 0) {
-    Add({row_, 0}, "no-feed",
-        std::string("A feed move takes material ") +
-            (hasFeedWord_ ? "with a feed of 0, for F is taken as whole mm a minute"
-                          : "before any F") +
-            ": it " + meeting + ". Name the feed in mm a minute, such as F200.",
-        figures);
+  if (cut.depth > 0 && ModCNC::FeedRate <= 0) {
+    AddCut(cut, "no-feed",
+           hasFeedWord_ ? "A feed move takes material with F at 0 when rounded to whole mm a minute"
+                        : "A feed move takes material before any F",
+           "Name the feed in mm a minute, such as F200.");
+  }
+  if (cut.reachesClampedEnd) {
+    Add({row_, 0}, "clamped-end",
+        "The cut reaches the clamped end of the billet, Z" + Millimetres(-BilletZ) +
+            ", where the chuck holds it. End it before, or name a longer billet.",
+        {{"z", -BilletZ / 10.0}});
+  }
+  if (const auto [z, x] = cut.lowest; x < -kBeyondCentre) {
+    Add({row_, 0}, "centre-crossed",
+        "The cut crosses the centre line at Z" + Millimetres(z) + " and goes on to X" +
+            Millimetres(2 * x) + ". End it at X0.",
+        Figures(z, x));
   }
 }
 
@@ -321,21 +357,24 @@ void Inspector::Finish() {
 }
 
 void Inspector::JudgeEnd() {
-  const Place end{endRow_.value_or(std::max(0, DebugWindow.Rows() - 1)), 0};
-  if (!endRow_) {
+  const int lastRow = std::max(0, DebugWindow.Rows() - 1);
+  const auto [row, isSpindleOn, isCoolantOn] =
+      end_.value_or(End{lastRow, IsSpindleOn(), IsCoolantOn()});
+  const Place end{row, 0};
+  if (!end_) {
     Add(end, "no-end", "The program ends without M02 or M30. Write M30 into its last block.");
   }
-  if (!HasNoDirection()) {
+  if (isSpindleOn) {
     Add(end, "spindle-on", "The program ends with the spindle on. Stop it before, by M05.");
   }
-  if (IsPanel("Coolant", "Coolant: ON")) {
+  if (isCoolantOn) {
     Add(end, "coolant-on", "The program ends with the coolant on. Turn it off before, by M09.");
   }
-  if (tool_ && part_.Holds(tool_->first, tool_->second)) {
+  if (tool_ && part_.Holds(tool_->z, tool_->x)) {
     Add(end, "tool-in-part",
-        "The program ends with the tool inside the part, at " +
-            Position(tool_->first, tool_->second) + ". Move it clear before, such as by G00.",
-        {{"x", 2 * tool_->second / 10.0}, {"z", tool_->first / 10.0}});
+        "The program ends with the tool inside the part, at " + Position(tool_->z, tool_->x) +
+            ". Move it clear before, such as by G00.",
+        Figures(tool_->z, tool_->x));
   }
 }
 

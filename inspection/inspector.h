@@ -43,11 +43,19 @@ class Inspector : public ModCNC::RunObserver {
     int row = 0;
     std::size_t column = 0;
   };
-  // Where a move meets the part, and how deep it goes: stock units.
-  struct Cut {
+  // Stock units.
+  struct Point {
     int z = 0;
     int x = 0;
+  };
+  // What a move does to the part as it stood.
+  struct Cut {
+    Point meeting;
+    // 0: it takes nothing.
     int depth = 0;
+    bool reachesClampedEnd = false;
+    // The furthest beyond the centre line.
+    Point lowest;
   };
 
   void StartWithBillet();
@@ -59,6 +67,9 @@ class Inspector : public ModCNC::RunObserver {
   void JudgeSecondBlock(std::span<const Word> words);
   // The row of a number of the second block, the first from `from` on; empty when there is none.
   std::optional<int> JudgeSequenceNumber(std::span<const Word> words, char letter, int from);
+  // Takes the material of the move that stands in PathPoints.
+  Cut Walk(bool isRapid);
+  void AddCut(const Cut& cut, const char* key, const std::string& what, const std::string& advice);
   void JudgeRapid(const Cut& cut);
   void JudgeFeed(const Cut& cut);
   void JudgePendingTool();
@@ -77,7 +88,7 @@ class Inspector : public ModCNC::RunObserver {
   // The row that is carried out.
   int row_ = 0;
   // Where the tool came to last, as it is played.
-  std::optional<std::pair<int, int>> tool_;
+  std::optional<Point> tool_;
 
   // A T word that no M06 has followed yet.
   struct ToolWord {
@@ -91,8 +102,13 @@ class Inspector : public ModCNC::RunObserver {
   std::optional<Place> toolChange_;
 
   bool hasFeedWord_ = false;
-  // The row that ended the run.
-  std::optional<int> endRow_;
+  // The row that ended the run, and what was on when it did.
+  struct End {
+    int row = 0;
+    bool isSpindleOn = false;
+    bool isCoolantOn = false;
+  };
+  std::optional<End> end_;
 };
 
 }  // namespace Inspection

@@ -7,7 +7,6 @@
 #include "interpreter/machine.h"
 #include "interpreter/words.h"
 #include "mainwindow/control_surface.h"
-#include "motion/pattern_cycle.h"
 #include "platform/numbers.h"
 
 namespace Inspection {
@@ -75,7 +74,8 @@ void WordUse::OnRow(int row, std::span<const Word> words, std::int16_t function)
       uses_[{row, word.offset}].isUsed = true;
     }
   }
-  if (hasDwell) Take("P");
+  // The time of a dwell, in whatever word.
+  if (hasDwell) Take("PXU");
   WriteSpeed(words);
   if (EndsRun(words)) return;
   TakeForMotion(function, ModCNC::RadiusGiven != kFalse || HasLetter(words, "R"));
@@ -128,8 +128,8 @@ void WordUse::TakeForMotion(std::int16_t function, bool hasRadius) {
       Take(hasRadius ? "XZR" : "XZIK");
       return;
     case 73:
-      // The F of a cycle is kept for controls that take it, as G73 often is written.
-      Take(GCodes::CycleArmed == kFalse ? "UWRF" : "PQUWF");
+      // The F of a cycle means something on other controls, and is often written for them.
+      Take("PQRUWF");
       return;
     case 90:
     case 94:
