@@ -44,6 +44,11 @@ bool IsModalWord(const Word& word) {
   return word.Letter() == 'G' && (function == nullptr || function->unit == nullptr);
 }
 
+bool IsNotSimulated(const Word& word) {
+  const GFunction* function = FunctionOf(word);
+  return function != nullptr && function->executor == nullptr && function->unit == nullptr;
+}
+
 std::int16_t ModalFunction(std::span<const Word> words, std::int16_t active) {
   for (const Word& word : words) {
     if (!IsModalWord(word)) continue;

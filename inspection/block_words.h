@@ -41,6 +41,9 @@ bool IsModalWord(const Word& word);
 // What no function that moves the tool is.
 inline constexpr std::int16_t kNoFunction = -1;
 
+// Whether it is a G word that passes the check of a program but does nothing.
+bool IsNotSimulated(const Word& word);
+
 // The function that moves the tool in the block, kNoFunction when none does. `active` is
 // that of the block before.
 std::int16_t ModalFunction(std::span<const Word> words, std::int16_t active);

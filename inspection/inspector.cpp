@@ -149,13 +149,16 @@ void Inspector::OnRow(std::string_view block) {
     return;
   }
   JudgeRepetition(words, function);
-  if (function == 73 && GCodes::CycleArmed != kFalse) JudgeSecondBlock(words);
+  if (function == 73) {
+    if (GCodes::CycleArmed != kFalse && !isPatternFaulty_) JudgeSecondBlock(words);
+  } else if (GCodes::ContourRow == GCodes::kNoRow) {
+    isPatternFaulty_ = false;
+  }
 }
 
 void Inspector::JudgeFunctions(std::span<const Word> words) {
   for (const Word& word : words) {
-    const ModCNC::GFunction* function = FunctionOf(word);
-    if (function == nullptr || function->executor != nullptr || function->unit != nullptr) continue;
+    if (!IsNotSimulated(word)) continue;
     Add({row_, word.offset}, "not-simulated",
         std::string(word.text) +
             " is accepted but not simulated: nothing moves until the next G00, G01 or other G word "
@@ -217,6 +220,7 @@ void Inspector::JudgeRepetition(std::span<const Word> words, std::int16_t functi
 
 void Inspector::JudgeSecondBlock(std::span<const Word> words) {
   if (!HasLetter(words, "PQ") && !HasWord(words, 'G', 73)) {
+    isPatternFaulty_ = true;
     Add({row_, 0}, "pattern-interrupted",
         Written(words) +
             " stands between the two blocks of G73 and counts as the second one. Put it ahead of "
@@ -232,22 +236,25 @@ std::optional<int> Inspector::JudgeSequenceNumber(std::span<const Word> words, c
   const Word* word = FindLetter(words, letter);
   const auto number = word != nullptr ? SequenceNumber(*word) : std::nullopt;
   const std::string role = letter == 'P' ? "first" : "last";
+  const char* key = letter == 'P' ? "pattern-first-row" : "pattern-last-row";
   if (!number) {
-    Add({row_, 0}, letter == 'P' ? "pattern-first-row" : "pattern-last-row",
+    isPatternFaulty_ = true;
+    Add({row_, 0}, key,
         "The second block of G73 has no " + std::string(1, letter) + ". Name the " + role +
             " row of the contour by its N number.");
     return std::nullopt;
   }
   const Place place{row_, word->offset};
-  const char* key = letter == 'P' ? "pattern-first-row" : "pattern-last-row";
   const std::string wanted = 'N' + DecimalText(*number);
   const auto row = GCodes::FindSequenceNumber(*number, from);
+  if (row && BearsNumber(*row, *number)) return row;
+  isPatternFaulty_ = true;
   if (!row) {
     Add(place, key,
         std::string(word->text) + ": no row" +
             (from > 0 ? " behind the first of the contour" : "") + " bears " + wanted +
             ". Give the " + role + " row of the contour that number.");
-  } else if (!BearsNumber(*row, *number)) {
+  } else {
     const std::string& text = RowText(*row);
     const std::size_t found = text.find(wanted);
     const bool isComment = text.find('[') < found;

@@ -101,6 +101,8 @@ class Inspector : public ModCNC::RunObserver {
   // An M06 whose outcome hasn't been looked at.
   std::optional<Place> toolChange_;
 
+  // The blocks of a G73 have been found faulty: what comes of it isn't told as more faults.
+  bool isPatternFaulty_ = false;
   bool hasFeedWord_ = false;
   // The row that ended the run, and what was on when it did.
   struct End {

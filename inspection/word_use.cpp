@@ -62,22 +62,27 @@ bool IsSpindleOn() {
 }  // namespace
 
 void WordUse::OnRow(int row, std::span<const Word> words, std::int16_t function) {
-  const bool hasDwell = HasWord(words, 'G', 4);
   const Word* lastFunction = nullptr;
   for (const Word& word : words) {
     Write(row, word);
     if (IsModalWord(word)) lastFunction = &word;
   }
   for (const Word& word : words) {
-    // What isn't simulated is told as such.
     if (&word == lastFunction || (word.Letter() == 'G' && !IsModalWord(word))) {
       uses_[{row, word.offset}].isUsed = true;
     }
+    // Its words are those of the function, which is told.
+    if (IsNotSimulated(word)) TakeAllOf(row, words);
   }
-  // The time of a dwell, in whatever word.
-  if (hasDwell) Take("PXU");
   WriteSpeed(words);
-  if (EndsRun(words)) return;
+  if (EndsRun(words)) {
+    for (const Word& word : words) {
+      if (HasLetter({&word, 1}, "XZUW")) {
+        uses_[{row, word.offset}].why = "M02 and M30 end the run before their block moves";
+      }
+    }
+    return;
+  }
   TakeForMotion(function, ModCNC::RadiusGiven != kFalse || HasLetter(words, "R"));
 }
 
@@ -96,11 +101,15 @@ void WordUse::Write(int row, const Word& word) {
     use.why = "the machine has no such M function";
     use.isUsed = ModCNC::IsMFunction(*ParseInt16(word.Number()));
   } else if (word.Letter() == 'G') {
-    const ModCNC::GFunction* function = FunctionOf(word);
     use.why = "another G word of its block takes its place";
-    use.isUsed |= function != nullptr && function->executor == nullptr;
   } else {
     use.isUsed = true;
+  }
+}
+
+void WordUse::TakeAllOf(int row, std::span<const Word> words) {
+  for (const Word& word : words) {
+    if (word.Letter() != 'M' && Fits(word)) uses_[{row, word.offset}].isUsed = true;
   }
 }
 

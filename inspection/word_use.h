@@ -34,6 +34,7 @@ class WordUse {
   };
 
   void Write(int row, const Word& word);
+  void TakeAllOf(int row, std::span<const Word> words);
   void WriteSpeed(std::span<const Word> words);
   void TakeForMotion(std::int16_t function, bool hasRadius);
   // Marks what stands in these registers as used.

@@ -1,0 +1,47 @@
+// What --inspect tells of each program of tests/data/inspection, whole: exit status, findings and
+// summary, and of the programs of machining the report. TURNBAY_WRITE_GOLDEN=1 writes it anew.
+
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <filesystem>
+#include <gtest/gtest.h>
+#include <vector>
+
+#include "tests/golden.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+
+std::vector<std::string> Programs() {
+  std::vector<std::string> programs;
+  for (const auto& entry : fs::directory_iterator(TURNBAY_INSPECTION)) {
+    if (entry.path().extension() == ".cnc") programs.push_back(entry.path().stem());
+  }
+  return programs;
+}
+
+class InspectionTest : public testing::TestWithParam<std::string> {};
+
+TEST_P(InspectionTest, TellsItsFindingsAndNothingElse) {
+  QProcess play;
+  play.setWorkingDirectory(TURNBAY_INSPECTION);
+  const QString program = QString::fromStdString(GetParam() + ".cnc");
+  play.start(TURNBAY_PLAY, {"--inspect", "--rapid-rate", "3000", "--report", "-", program});
+  ASSERT_TRUE(play.waitForFinished(60'000)) << play.errorString().toStdString();
+  QByteArray told = "exit status " + QByteArray::number(play.exitCode()) + '\n';
+  told += play.readAllStandardError();
+  if (program.startsWith("machining")) {
+    QJsonObject report = QJsonDocument::fromJson(play.readAllStandardOutput()).object();
+    told +=
+        QJsonDocument({{"inspection", report["inspection"]}, {"machining", report["machining"]}})
+            .toJson();
+  }
+  ExpectGolden("../inspection/" + GetParam(), told.toStdString());
+}
+
+INSTANTIATE_TEST_SUITE_P(All, InspectionTest, testing::ValuesIn(Programs()),
+                         [](const auto& test) { return test.param; });
+
+}  // namespace

@@ -1,0 +1,12 @@
+[BILLET X50 Z80
+[Without the fault: no finding
+[Billet X40 Z60 would be too small
+N10 G00 X100 Z50
+N20 T01 M06
+N30 S800 M03
+N40 G00 X46 Z2
+N50 G01 Z-20 F200
+N60 G01 X52
+N70 G00 X100 Z50
+N80 M05
+N90 M30

@@ -1,0 +1,12 @@
+[BILLET X50 Z80
+[What stands in front of the cut has
+[gone with the chip: N60 is clear
+N10 G00 X100 Z50
+N20 T01 M06
+N30 S800 M03
+N40 G00 X54 Z-1
+N50 G01 X20 F200
+N60 G00 Z2
+N70 G00 X100 Z50
+N80 M05
+N90 M30

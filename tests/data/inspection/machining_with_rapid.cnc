@@ -1,0 +1,9 @@
+[BILLET X50 Z80
+[N30 comes along X46 to the face at Z0
+[and goes 2 mm deep
+N10 G00 X100 Z50
+N20 S800 M03
+N30 G00 X46 Z-10 I1
+N40 G00 X100 Z50
+N50 M05
+N60 M30

@@ -1,0 +1,12 @@
+[BILLET X50 Z80
+[N40 comes along X46 to the face at Z0
+[and goes 2 mm deep: radius 25 to 23
+N10 G00 X100 Z50
+N20 T01 M06
+N30 S800 M03
+N40 G00 X46 Z-10
+N50 G01 Z-20 F200
+N60 G01 X52
+N70 G00 X100 Z50
+N80 M05
+N90 M30

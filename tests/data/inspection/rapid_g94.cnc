@@ -1,0 +1,11 @@
+[BILLET X50 Z80
+[The cycle begins at X46 and goes to
+[Z-2 there by a rapid leg: 2 mm
+N10 G00 X100 Z50
+N20 T01 M06
+N30 S800 M03
+N40 G00 X46 Z2
+N50 G94 X30 Z-2 F200
+N70 G00 X100 Z50
+N80 M05
+N90 M30
