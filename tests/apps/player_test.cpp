@@ -46,7 +46,12 @@ TEST_F(PlayerTest, WrongUsageAndUnreadableFilesEndWithTwoAndAReason) {
       {{"--tools", "no/tools", "good.cnc"}, "\"no/tools\""},
       {{"--picture", ".", "good.cnc"}, "can't be written"},
       {{"--picture", "", "good.cnc"}, "--picture needs"},
-      {{"--tools", "", "good.cnc"}, "--tools needs"}};
+      {{"--tools", "", "good.cnc"}, "--tools needs"},
+      {{"--inspect", "--check", "good.cnc"}, "--inspect and --check exclude"},
+      {{"--inspect", "--reformat", "good.cnc"}, "--inspect and --reformat exclude"},
+      {{"--rapid-rate", "900", "good.cnc"}, "--rapid-rate needs --inspect"},
+      {{"--inspect", "--rapid-rate", "0", "good.cnc"}, "above 0, such as 5000, not \"0\""},
+      {{"--inspect", "--rapid-rate", "5e3", "good.cnc"}, "not \"5e3\""}};
   for (const auto& [arguments, reason] : cases) {
     EXPECT_EQ(2, Run(arguments)) << reason;
     EXPECT_TRUE(err_.contains(reason)) << err_.toStdString();
@@ -136,6 +141,8 @@ TEST_F(PlayerTest, AFaultIsToldAtItsPlaceInTheFile) {
     EXPECT_EQ(std::string("\0\0\0F\0\0\0(", 8), Bytes("p.png").substr(16, 8)) << "as asked for";
     EXPECT_TRUE(err_.contains(QByteArray::fromStdString(place))) << err_.toStdString();
     EXPECT_EQ(outcome, Report()["outcome"].toString().toStdString());
+    EXPECT_EQ(1, Run({"--inspect", "p.cnc"})) << "nothing to inspect";
+    EXPECT_FALSE(err_.contains("warning") || err_.contains("Cutting")) << err_.toStdString();
   }
 }
 
