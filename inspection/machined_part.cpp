@@ -69,13 +69,15 @@ void MachinedPart::TakeShape(int z, int x) {
   const auto column = ColumnAt(z);
   TakePoint(z, x);
   if (column && radii_[*column] == 0) {
-    std::fill_n(radii_.begin(), *column, 0);
+    for (; fallen_ < *column; ++fallen_) radii_[fallen_] = 0;
     return;
   }
   // Also from beside the clamped end: the shape lies to the right of the cutting point.
-  for (std::size_t i = 0; i < edge_.size(); ++i) {
-    const auto under = ColumnAt(z + static_cast<int>(i));
-    if (under) radii_[*under] = std::min(radii_[*under], std::abs(x) + edge_[i]);
+  const int columns = static_cast<int>(radii_.size());
+  const int right = std::max(0, -z - static_cast<int>(edge_.size()) + 1);
+  for (int i = std::min(-z, columns - 1); i >= right; --i) {
+    int& radius = radii_[static_cast<std::size_t>(i)];
+    radius = std::min(radius, std::abs(x) + edge_[static_cast<std::size_t>(-z - i)]);
   }
 }
 

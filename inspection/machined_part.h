@@ -39,6 +39,8 @@ class MachinedPart {
 
  private:
   std::vector<int> radii_;
+  // Columns that have been cut off, from the free end on.
+  std::size_t fallen_ = 0;
   // How far above the cutting point the tool's lower edge lies, from the cutting point rightward.
   std::vector<int> edge_;
 };
