@@ -84,10 +84,12 @@ std::size_t RowOffset(std::string_view text, int row) {
 std::vector<PlacedFinding> PlaceFindings(const Inspection::Inspector& inspector,
                                          const std::vector<PlayWarning>& billetWarnings,
                                          std::string_view source) {
+  const std::vector<Inspection::Finding> findings = inspector.Findings();
   std::vector<PlacedFinding> placed;
+  placed.reserve(billetWarnings.size() + findings.size());
   for (const auto& [text, place] : billetWarnings) placed.push_back({"billet-size", text, place});
   const std::string& text = frmMain::TextEditor().Text();
-  for (const Inspection::Finding& finding : inspector.Findings()) {
+  for (const Inspection::Finding& finding : findings) {
     const std::size_t offset = RowOffset(text, finding.row) + finding.column;
     placed.push_back({finding.key, finding.text, frmMain::FindSourcePlace(source, text, offset),
                       finding.figures});

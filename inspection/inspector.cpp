@@ -285,14 +285,15 @@ void Inspector::OnMove() {
 
 Inspector::Cut Inspector::Walk(bool isRapid) {
   Cut cut;
-  // The tool stands at the first point already; an arc may have ended a little before it.
+  // Empty for the first point, at which the tool stands already: an arc may have ended a little
+  // before it.
   MachinedPart before;
   Point last;
   for (std::size_t i = 0; i < GCodes::PathPoints.size(); ++i) {
     const GCodes::PathPoint& point = GCodes::PathPoints[i];
     const Point now = {RoundToPixel(GCodes::CycleOffsetZ + point.Z),
                        RoundToPixel(GCodes::CycleOffsetX + point.X)};
-    const int depth = i == 0 ? 0 : before.DepthAt(now.z, now.x);
+    const int depth = before.DepthAt(now.z, now.x);
     // It meets the part where it is clear for the last time.
     if (depth > 0 && cut.depth == 0) cut.meeting = last;
     cut.depth = std::max(cut.depth, depth);

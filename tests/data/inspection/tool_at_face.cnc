@@ -1,0 +1,9 @@
+[BILLET X50 Z80
+[The tool stays before the face it cut
+N10 G00 X100 Z50
+N20 T01 M06
+N30 S800 M03
+N40 G00 X54 Z-1
+N50 G01 X0 F200
+N80 M05
+N90 M30
