@@ -10,6 +10,15 @@ namespace Inspection {
 
 using ModCNC::GFunction;
 
+namespace {
+
+const GFunction* FindFunction(std::optional<std::int16_t> number) {
+  const auto* found = std::ranges::find(ModCNC::kGFunctions, number, &GFunction::number);
+  return found == std::end(ModCNC::kGFunctions) ? nullptr : found;
+}
+
+}  // namespace
+
 std::vector<Word> WordsOf(std::string_view block) {
   std::vector<Word> words;
   for (const std::string_view part : Split(block, " ")) {
@@ -33,10 +42,7 @@ bool HasWord(std::span<const Word> words, char letter, std::int16_t number) {
 }
 
 const GFunction* FunctionOf(const Word& word) {
-  if (word.Letter() != 'G') return nullptr;
-  const auto* found =
-      std::ranges::find(ModCNC::kGFunctions, ParseInt16(word.Number()), &GFunction::number);
-  return found == std::end(ModCNC::kGFunctions) ? nullptr : found;
+  return word.Letter() == 'G' ? FindFunction(ParseInt16(word.Number())) : nullptr;
 }
 
 bool IsModalWord(const Word& word) {
@@ -50,17 +56,27 @@ bool IsNotSimulated(const Word& word) {
 }
 
 std::int16_t ModalFunction(std::span<const Word> words, std::int16_t active) {
+  const GFunction* function = FindFunction(active);
   for (const Word& word : words) {
-    if (!IsModalWord(word)) continue;
-    const GFunction* function = FunctionOf(word);
-    active = function != nullptr && function->executor != nullptr ? function->number : kNoFunction;
+    if (IsModalWord(word)) function = FunctionOf(word);
   }
-  return active;
+  return function != nullptr && function->executor != nullptr ? function->number : kNoFunction;
 }
 
 std::string GName(std::int16_t number) {
   const std::string digits = DecimalText(number);
   return (number < 10 ? "G0" : "G") + digits;
+}
+
+std::string Written(std::span<const Word> words) {
+  std::string text;
+  for (const Word& word : words) {
+    if (word.Letter() == 'N') continue;
+    if (!text.empty()) text += ' ';
+    text += word.text;
+  }
+  if (text.empty()) text = "A block without words";
+  return text;
 }
 
 bool EndsRun(std::span<const Word> words) {

@@ -51,6 +51,9 @@ std::int16_t ModalFunction(std::span<const Word> words, std::int16_t active);
 // A G function as it is written, such as "G01".
 std::string GName(std::int16_t number);
 
+// The words of a block but for its N, as they are written.
+std::string Written(std::span<const Word> words);
+
 // Whether the block ends the run, by M02 or M30, before it moves.
 bool EndsRun(std::span<const Word> words);
 

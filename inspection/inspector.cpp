@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "inspection/pattern_blocks.h"
 #include "interpreter/machine.h"
 #include "interpreter/run_driver.h"
 #include "interpreter/tool_change.h"
@@ -74,36 +75,6 @@ constexpr std::int16_t kSpindleStarts[] = {3, 4, 13, 14};
 constexpr std::int16_t kSpindleStop = 5;
 constexpr std::int16_t kCoolantStarts[] = {8, 13, 14};
 constexpr std::int16_t kCoolantStop = 9;
-
-std::string Written(std::span<const Word> words) {
-  std::string text;
-  for (const Word& word : words) {
-    if (word.Letter() == 'N') continue;
-    if (!text.empty()) text += ' ';
-    text += word.text;
-  }
-  if (text.empty()) text = "A block without words";
-  return text;
-}
-
-const Word* FindLetter(std::span<const Word> words, char letter) {
-  const auto found = std::ranges::find(words, letter, &Word::Letter);
-  return found == words.end() ? nullptr : &*found;
-}
-
-// The number of a P or Q word, as the cycle takes it.
-std::optional<std::int16_t> SequenceNumber(const Word& word) {
-  const auto number = ParseNumber(word.Number());
-  const auto tenfold = number ? RoundToInt16(*number * 10) : std::nullopt;
-  return tenfold ? RoundToInt16(*tenfold / 10.0) : std::nullopt;
-}
-
-bool BearsNumber(int row, std::int16_t number) {
-  const std::string_view text = RowText(row);
-  const std::string wanted = 'N' + DecimalText(number);
-  return std::ranges::any_of(WordsOf(text.substr(0, text.find('['))),
-                             [&](const Word& word) { return word.text == wanted; });
-}
 
 int RowInPlay() {
   return GCodes::ContourRow != GCodes::kNoRow ? GCodes::ContourRow : GlobalVariables::CurrentRow;
@@ -219,53 +190,10 @@ void Inspector::JudgeRepetition(std::span<const Word> words, std::int16_t functi
 }
 
 void Inspector::JudgeSecondBlock(std::span<const Word> words) {
-  if (!HasLetter(words, "PQ") && !HasWord(words, 'G', 73)) {
+  for (const Finding& finding : SecondBlockFindings(row_, words)) {
     isPatternFaulty_ = true;
-    Add({row_, 0}, "pattern-interrupted",
-        Written(words) +
-            " stands between the two blocks of G73 and counts as the second one. Put it ahead of "
-            "the first.");
-    return;
+    Add({finding.row, finding.column}, finding.key, finding.text);
   }
-  const std::optional<int> first = JudgeSequenceNumber(words, 'P', 0);
-  JudgeSequenceNumber(words, 'Q', first.value_or(0) + 1);
-}
-
-std::optional<int> Inspector::JudgeSequenceNumber(std::span<const Word> words, char letter,
-                                                  int from) {
-  const Word* word = FindLetter(words, letter);
-  const auto number = word != nullptr ? SequenceNumber(*word) : std::nullopt;
-  const std::string role = letter == 'P' ? "first" : "last";
-  const char* key = letter == 'P' ? "pattern-first-row" : "pattern-last-row";
-  if (!number) {
-    isPatternFaulty_ = true;
-    Add({row_, 0}, key,
-        "The second block of G73 has no " + std::string(1, letter) + ". Name the " + role +
-            " row of the contour by its N number.");
-    return std::nullopt;
-  }
-  const Place place{row_, word->offset};
-  const std::string wanted = 'N' + DecimalText(*number);
-  const auto row = GCodes::FindSequenceNumber(*number, from);
-  if (row && BearsNumber(*row, *number)) return row;
-  isPatternFaulty_ = true;
-  if (!row) {
-    Add(place, key,
-        std::string(word->text) + ": no row" +
-            (from > 0 ? " behind the first of the contour" : "") + " bears " + wanted +
-            ". Give the " + role + " row of the contour that number.");
-  } else {
-    const std::string& text = RowText(*row);
-    const std::size_t found = text.find(wanted);
-    const bool isComment = text.find('[') < found;
-    const std::string holder = text.substr(found, text.find(' ', found) - found);
-    Add(place, key,
-        std::string(word->text) + " finds " + wanted + " " +
-            (isComment ? "in the comment of row " + DecimalText(*row + 1) : "inside " + holder) +
-            ", the first text that holds it. Number the " + role +
-            " row of the contour so that none above holds its number.");
-  }
-  return row;
 }
 
 void Inspector::OnMove() {

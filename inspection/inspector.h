@@ -65,8 +65,6 @@ class Inspector : public ModCNC::RunObserver {
   void JudgeFunctions(std::span<const Word> words);
   void JudgeRepetition(std::span<const Word> words, std::int16_t function);
   void JudgeSecondBlock(std::span<const Word> words);
-  // The row of a number of the second block, the first from `from` on; empty when there is none.
-  std::optional<int> JudgeSequenceNumber(std::span<const Word> words, char letter, int from);
   // Takes the material of the move that stands in PathPoints.
   Cut Walk(bool isRapid);
   void AddCut(const Cut& cut, const char* key, const std::string& what, const std::string& advice);
