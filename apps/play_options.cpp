@@ -22,6 +22,8 @@ struct OptionRow {
                PictureSize PlayOptions::*>
       target;
   const char* fallback = "";
+  // Of a number, which is never below.
+  bool takesZero = false;
 };
 
 constexpr OptionRow kOptions[] = {
@@ -46,6 +48,16 @@ constexpr OptionRow kOptions[] = {
      &PlayOptions::turnedPart},
     {"", "turned-part-size", "WxH", "Size of that picture in pixels.", &PlayOptions::turnedPartSize,
      "800x600"},
+    {"Making the part", "solid", "FILE.stl", "Write the part as a closed solid, in mm.",
+     &PlayOptions::solid},
+    {"", "section", "FILE.svg", "Write the section as a dimensioned drawing at 1:1.",
+     &PlayOptions::section},
+    {"Comparing with the part that was asked for", "compare", "REFERENCE",
+     "Compare with the part of a program, or a profile.", &PlayOptions::compare},
+    {"", "tolerance", "MM", "What is no deviation, on the radius.", &PlayOptions::tolerance, "0.05",
+     true},
+    {"", "difference", "FILE.png", "Write a picture of what is left standing and cut away.",
+     &PlayOptions::difference},
     {"Other", "help", "", "Show this help.", &PlayOptions::help},
     {"", "version", "", "Show the version.", &PlayOptions::version},
 };
@@ -56,8 +68,11 @@ struct Pair {
 };
 
 // What has no sense without another option, and what has none together with another.
-constexpr Pair kNeeds[] = {{"rapid-rate", "inspect"}};
-constexpr Pair kExcludes[] = {{"inspect", "check"}, {"inspect", "reformat"}};
+constexpr Pair kNeeds[] = {
+    {"rapid-rate", "inspect"}, {"tolerance", "compare"}, {"difference", "compare"}};
+constexpr Pair kExcludes[] = {
+    {"inspect", "check"}, {"inspect", "reformat"}, {"compare", "check"}, {"compare", "reformat"},
+    {"solid", "check"},   {"solid", "reformat"},   {"section", "check"}, {"section", "reformat"}};
 
 // Every option by its group, aligned.
 QString HelpText() {
@@ -74,7 +89,7 @@ QString HelpText() {
   return text +
          "\nExit status: 0 played, 1 the program can't be played, 2 wrong usage, a file that\n"
          "can't be read or written, too little memory, or no OpenGL for --turned-part,\n"
-         "3 findings of --inspect.\n";
+         "3 findings of --inspect, or not the part of --compare.\n";
 }
 
 // "1000x640"; empty when it isn't two whole numbers from 1 to kMaxSide.
@@ -116,9 +131,10 @@ class Take {
   }
   QString operator()(double PlayOptions::*number) const {
     const std::optional<double> given = ParseNumber(value_.toStdString());
-    if (!given || *given <= 0) {
-      return QString("--%1 needs a number above 0, such as %2, not \"%3\".")
-          .arg(row_.name, row_.fallback, value_);
+    if (!given || *given < 0 || (*given == 0 && !row_.takesZero)) {
+      const char* range = row_.takesZero ? "from 0 on" : "above 0";
+      return QString("--%1 needs a number %2, such as %3, not \"%4\".")
+          .arg(row_.name, range, row_.fallback, value_);
     }
     options_.*number = *given;
     return {};
@@ -177,5 +193,8 @@ ParsedOptions ParsePlayOptions(const QStringList& arguments) {
     if (!fault.isEmpty()) return WrongUsage(fault);
   }
   options.program = programs.first().toStdString();
+  if (options.program == "-" && options.compare == "-") {
+    return WrongUsage("standard input can't be both the program and what it is compared with.");
+  }
   return {options, {}, 0};
 }

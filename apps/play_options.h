@@ -28,6 +28,13 @@ struct PlayOptions {
   bool inspect = false;
   // In mm/min, above 0.
   double rapidRate = 0;
+  // A part program, or a profile as --profile writes it; "-" is standard input.
+  std::string compare;
+  // Of the radius, in mm, at least 0.
+  double tolerance = 0;
+  std::string difference;
+  std::string solid;
+  std::string section;
   bool runToBreakpoint = false;
   // Bring the text into its layout and check it; don't play.
   bool check = false;

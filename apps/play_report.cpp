@@ -2,19 +2,18 @@
 
 #include <QBuffer>
 #include <QCryptographicHash>
-#include <QImage>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <cstddef>
 #include <new>
 
+#include "apps/comparison_json.h"
 #include "interpreter/machine.h"
 #include "mainwindow/control_surface.h"
 #include "motion/player.h"
 #include "motion/stock.h"
 #include "platform/code_page.h"
-#include "platform/numbers.h"
 #include "platform/qt/views/raster_image.h"
 #include "platform/windowless/windowless.h"
 
@@ -107,10 +106,6 @@ QString SurfaceHash(const Raster& surface) {
   return hash.result().toHex();
 }
 
-std::string Millimetres(int stockUnits) {
-  return NumberText(stockUnits / 10.0);
-}
-
 }  // namespace
 
 QByteArray ReportJson(const PlayOutcome& outcome) {
@@ -138,24 +133,19 @@ QByteArray ReportJson(const PlayOutcome& outcome) {
   for (auto it = outcome.inspection.begin(); it != outcome.inspection.end(); ++it) {
     report[it.key()] = it.value();
   }
+  if (outcome.comparison) report["comparison"] = ComparisonJson(*outcome.comparison);
   return QJsonDocument(report).toJson();
 }
 
-std::string ProfileCsv() {
-  std::string csv = "z_mm,radius_mm,taper\n";
-  int z = 0;
-  for (const Graphics::ProfileColumn& column : Graphics::StockProfile) {
-    csv += Millimetres(z--) + ',' + Millimetres(column.Radius) + ',' +
-           DecimalText(column.TaperMark) + '\n';
-  }
-  return csv;
+QByteArray RasterPng(const Raster& picture) {
+  return ImagePng(ToImage(picture));
 }
 
-QByteArray RasterPng(const Raster& picture) {
+QByteArray ImagePng(const QImage& picture) {
   QByteArray bytes;
   QBuffer buffer(&bytes);
   buffer.open(QIODevice::WriteOnly);
   // Nothing but memory can be missing.
-  if (!ToImage(picture).save(&buffer, "PNG")) throw std::bad_alloc();
+  if (!picture.save(&buffer, "PNG")) throw std::bad_alloc();
   return bytes;
 }

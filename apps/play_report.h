@@ -1,11 +1,14 @@
 #pragma once
 
 #include <QByteArray>
+#include <QImage>
 #include <QJsonObject>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "editor/source_place.h"
+#include "inspection/comparison.h"
 #include "interpreter/machine.h"
 #include "platform/raster.h"
 
@@ -28,15 +31,15 @@ struct PlayOutcome {
   std::vector<PlayWarning> warnings{};
   // Members of the report; none when no inspection was asked for.
   QJsonObject inspection{};
+  // Where one was asked for, and the program could be played.
+  std::optional<Inspection::Comparison> comparison{};
 };
 
-// Both that make a picture throw std::bad_alloc.
+// All that make a picture throw std::bad_alloc.
 
 // One JSON object.
 QByteArray ReportJson(const PlayOutcome& outcome);
 
-// One line a column: z in mm, radius in mm, taper mark.
-std::string ProfileCsv();
-
 // A picture as a PNG file's bytes.
 QByteArray RasterPng(const Raster& picture);
+QByteArray ImagePng(const QImage& picture);

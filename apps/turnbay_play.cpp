@@ -1,9 +1,12 @@
 // Plays a part program without a window: for scripts, batch checks and tests.
 
 #include <QCoreApplication>
+#include <QGuiApplication>
+#include <QLoggingCategory>
 #include <cerrno>
 #include <cstdio>
 #include <filesystem>
+#include <memory>
 #include <new>
 #include <optional>
 #include <string>
@@ -11,6 +14,7 @@
 #include <unistd.h>
 #include <vector>
 
+#include "apps/difference_picture.h"
 #include "apps/play_inspection.h"
 #include "apps/play_options.h"
 #include "apps/play_report.h"
@@ -20,6 +24,10 @@
 #include "editor/reformat.h"
 #include "editor/source_place.h"
 #include "editor/syntax_check.h"
+#include "inspection/comparison.h"
+#include "inspection/profile_csv.h"
+#include "inspection/section.h"
+#include "inspection/solid.h"
 #include "interpreter/machine.h"
 #include "interpreter/run_driver.h"
 #include "mainwindow/control_surface.h"
@@ -78,10 +86,17 @@ void StartUp(const PlayOptions& options) {
   frmMain::mnuToolsPlaySound.Checked = false;
 }
 
-bool LoadProgram(const std::string& path) {
+// What can't be read is told.
+std::optional<std::string> ReadInput(const std::string& path) {
   std::string reason;
-  const auto bytes = path == "-" ? ReadStandardInput(reason) : ReadFile(path, reason);
-  if (bytes && frmMain::ShowProgram(path, *bytes, reason)) return true;
+  auto bytes = path == "-" ? ReadStandardInput(reason) : ReadFile(path, reason);
+  if (!bytes) SayTrouble(reason);
+  return bytes;
+}
+
+bool ShowProgram(const std::string& path, std::string_view bytes) {
+  std::string reason;
+  if (frmMain::ShowProgram(path, bytes, reason)) return true;
   SayTrouble(reason);
   return false;
 }
@@ -146,6 +161,11 @@ std::size_t BilletOffset() {
   return found < 0 ? 0 : static_cast<std::size_t>(found);
 }
 
+void SayComparison(const PlayOptions& options, const Inspection::Comparison& comparison) {
+  const std::string text = Inspection::ComparisonText(comparison, options.program, options.compare);
+  std::fwrite(text.data(), 1, text.size(), stderr);
+}
+
 // Of a billet line that leaves a size open.
 std::vector<PlayWarning> BilletWarnings(std::string_view source) {
   const std::string_view text = frmMain::TextEditor().Text();
@@ -179,6 +199,13 @@ bool WriteTurnedPart(const PlayOptions& options) {
   return WriteFile(options.turnedPart, View(RasterPng(picture)));
 }
 
+bool WriteSolid(const PlayOptions& options) {
+  std::string reason;
+  const auto stl = Inspection::SolidStl(Graphics::StockProfile, reason);
+  if (!stl) SayTrouble(options.solid + ": " + reason);
+  return stl && WriteFile(options.solid, *stl);
+}
+
 // Writes what `make` makes, if it was asked for. What there is no memory for is told.
 template <class Make>
 bool WriteResult(const std::string& path, Make make) {
@@ -191,11 +218,27 @@ bool WriteResult(const std::string& path, Make make) {
   }
 }
 
-bool WriteResults(const PlayOptions& options, const PlayOutcome& outcome) {
+bool WriteResults(const PlayOptions& options, const PlayOutcome& outcome,
+                  const std::optional<Inspection::Part>& reference) {
   bool written = WriteResult(options.picture, [&] {
     return WriteFile(options.picture, View(RasterPng(Graphics::StockDC.Read())));
   });
-  written &= WriteResult(options.profile, [&] { return WriteFile(options.profile, ProfileCsv()); });
+  written &= WriteResult(options.profile, [&] {
+    return WriteFile(options.profile, Inspection::ProfileCsv(Graphics::StockProfile));
+  });
+  if (outcome.comparison) {
+    written &= WriteResult(options.difference, [&] {
+      const QByteArray png =
+          DifferencePng(Graphics::StockProfile, reference->profile, *outcome.comparison);
+      return WriteFile(options.difference, View(png));
+    });
+  }
+  if (outcome.run == RunOutcome::Played) {
+    written &= WriteResult(options.solid, [&] { return WriteSolid(options); });
+    written &= WriteResult(options.section, [&] {
+      return WriteFile(options.section, Inspection::SectionSvg(Graphics::StockProfile));
+    });
+  }
   written &= WriteResult(options.report,
                          [&] { return WriteFile(options.report, View(ReportJson(outcome))); });
   // Last: it alone asks for OpenGL, which some machines lack.
@@ -216,9 +259,52 @@ bool TellInspection(const PlayOptions& options, const Inspection::Inspector& ins
   return !findings.empty();
 }
 
+// Why the program can't be played, at its place in the file; false when it can.
+bool TellFault(const PlayOptions& options, std::string_view source, RunOutcome run) {
+  const bool hasFault = run == RunOutcome::SyntaxFault;
+  if (!hasFault && run != RunOutcome::NoBillet) return false;
+  const std::size_t offset = hasFault ? frmMain::TextEditor().SelStart() : BilletOffset();
+  SayAt(options, PlaceOf(source, offset), Windowless::Messages().back().text);
+  return true;
+}
+
+Inspection::Part PlayedPart() {
+  return {Graphics::StockProfile, GlobalVariables::BilletX};
+}
+
+// What the part is compared with. Why there is none is told.
+std::optional<Inspection::Part> ReadReference(const PlayOptions& options) {
+  const auto bytes = ReadInput(options.compare);
+  if (!bytes) return std::nullopt;
+  if (Inspection::IsProfileCsv(*bytes)) {
+    std::string reason;
+    const auto profile = Inspection::ParseProfileCsv(*bytes, reason);
+    if (profile) return Inspection::Part{*profile};
+    SayTrouble(options.compare + ": " + reason);
+    return std::nullopt;
+  }
+  PlayOptions reference = options;
+  reference.program = options.compare;
+  StartUp(reference);
+  if (!ShowProgram(reference.program, *bytes)) return std::nullopt;
+  const std::string source = frmMain::TextEditor().Text();
+  Play(reference.runToBreakpoint);
+  if (TellFault(reference, source, GlobalVariables::LastRun)) return std::nullopt;
+  // What went wrong within it has been told, and isn't the program's.
+  Windowless::ForgetMessages();
+  resumes = 0;
+  return PlayedPart();
+}
+
 int Run(const PlayOptions& options) {
+  std::optional<Inspection::Part> reference;
+  if (!options.compare.empty()) {
+    reference = ReadReference(options);
+    if (!reference) return kFileTrouble;
+  }
   StartUp(options);
-  if (!LoadProgram(options.program)) return kFileTrouble;
+  const auto bytes = ReadInput(options.program);
+  if (!bytes || !ShowProgram(options.program, *bytes)) return kFileTrouble;
   const std::string source = frmMain::TextEditor().Text();
 
   PlayOutcome outcome;
@@ -235,15 +321,15 @@ int Run(const PlayOptions& options) {
     outcome.run = GlobalVariables::LastRun;
     if (inspector) inspector->Finish();
   }
-  const bool hasFault = outcome.run == RunOutcome::SyntaxFault;
+  const bool isPlayable = !TellFault(options, source, outcome.run);
   bool hasFindings = false;
-  const bool lacksBillet = outcome.run == RunOutcome::NoBillet;
-  if (hasFault || lacksBillet) {
-    const std::size_t offset = hasFault ? frmMain::TextEditor().SelStart() : BilletOffset();
-    SayAt(options, PlaceOf(source, offset), Windowless::Messages().back().text);
-  } else {
+  if (isPlayable) {
     outcome.warnings = BilletWarnings(source);
     if (inspector) hasFindings = TellInspection(options, *inspector, source, outcome);
+    if (reference) {
+      outcome.comparison = Inspection::Compare(PlayedPart(), *reference, options.tolerance);
+      hasFindings |= !outcome.comparison->IsWithin();
+    }
   }
   for (const auto& [text, place] : outcome.warnings) SayAt(options, place, "warning: " + text);
   // A fault has been shown in the editor, which takes its place from the simulation area.
@@ -252,17 +338,32 @@ int Run(const PlayOptions& options) {
   if (Graphics::StockDC.Width() != options.size.width) return kFileTrouble;
   outcome.text = frmMain::TextEditor().Text();
   outcome.resumes = resumes;
-  if (!WriteResults(options, outcome)) return kFileTrouble;
-  if (hasFault || lacksBillet) return kNotPlayable;
+  if (outcome.comparison) SayComparison(options, *outcome.comparison);
+  if (!WriteResults(options, outcome, reference)) return kFileTrouble;
+  if (!isPlayable) return kNotPlayable;
   if (inspector) Say(MachiningLine(inspector->Done()));
   return hasFindings ? kFindings : kPlayed;
+}
+
+QStringList Arguments(int argc, char** argv) {
+  QStringList arguments;
+  for (int i = 0; i < argc; ++i) arguments.append(QString::fromLocal8Bit(argv[i]));
+  return arguments;
+}
+
+// Text in a picture needs fonts, which only an application of windows has; none is ever shown.
+std::unique_ptr<QCoreApplication> MakeApplication(int& argc, char** argv, bool drawsText) {
+  if (!drawsText) return std::make_unique<QCoreApplication>(argc, argv);
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  // A session without a folder for run-time files is nothing that the user has to hear of.
+  QLoggingCategory::setFilterRules("default.warning=false");
+  return std::make_unique<QGuiApplication>(argc, argv);
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
-  const QCoreApplication application(argc, argv);
-  const ParsedOptions parsed = ParsePlayOptions(QCoreApplication::arguments());
+  const ParsedOptions parsed = ParsePlayOptions(Arguments(argc, argv));
   if (!parsed.options) {
     const std::string message = parsed.message.toStdString();
     if (parsed.exitStatus == 0) return Print(message) ? kPlayed : kFileTrouble;
@@ -270,6 +371,7 @@ int main(int argc, char** argv) {
     return parsed.exitStatus;
   }
   const PlayOptions& options = *parsed.options;
+  const auto application = MakeApplication(argc, argv, !options.difference.empty());
   if (!options.tools.empty() && !std::filesystem::is_directory(options.tools)) {
     SayTrouble("The tool folder \"" + options.tools + "\" can't be found.");
     return kFileTrouble;

@@ -26,6 +26,11 @@ const std::vector<NotificationRecord>& Notifications() {
   return notifications;
 }
 
+void ForgetMessages() {
+  messages.clear();
+  notifications.clear();
+}
+
 void SetHooks(std::function<void()> onYield, std::function<void()> onWait) {
   yieldHook = std::move(onYield);
   waitHook = std::move(onWait);

@@ -26,6 +26,9 @@ struct NotificationRecord {
 // Every notification so far, in order.
 const std::vector<NotificationRecord>& Notifications();
 
+// Forgets them, as before another run.
+void ForgetMessages();
+
 // Called at each yield, and where a paused run would wait. Nothing else can end such a wait, so
 // onWait must resume or stop the run.
 void SetHooks(std::function<void()> onYield, std::function<void()> onWait);

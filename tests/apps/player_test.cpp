@@ -1,5 +1,7 @@
 // turnbay-play as scripts use it: exit status, what is said where, and what is written.
 
+#include "tests/apps/player_test.h"
+
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -9,28 +11,8 @@
 #include <sys/stat.h>
 
 #include "tests/golden.h"
-#include "tests/platform/qt/temporary_folder.h"
 
 namespace {
-
-class PlayerTest : public TemporaryFolderTest {
- protected:
-  // Returns the exit status; what was printed is in out_ and err_.
-  int Run(const QStringList& arguments) {
-    player_.setWorkingDirectory(QString::fromStdString(folder));
-    player_.start(TURNBAY_PLAY, arguments);
-    EXPECT_TRUE(player_.waitForFinished());
-    out_ = player_.readAllStandardOutput();
-    err_ = player_.readAllStandardError();
-    EXPECT_EQ(QProcess::NormalExit, player_.exitStatus());
-    return player_.exitCode();
-  }
-  QJsonObject Report() { return QJsonDocument::fromJson(out_).object(); }
-
-  QProcess player_;
-  QByteArray out_;
-  QByteArray err_;
-};
 
 TEST_F(PlayerTest, WrongUsageAndUnreadableFilesEndWithTwoAndAReason) {
   Put("good.cnc", "[BILLET X20 Z40");
