@@ -21,14 +21,14 @@ using Inspection::RadiusAt;
 constexpr int kWidth = 1200;
 constexpr int kMargin = 50;
 constexpr int kMaxPartHeight = 700;
-constexpr int kLine = 28;
+constexpr int kLine = 36;
 constexpr int kLegendHeight = 4 * kLine;
 constexpr int kBandHeight = 14;
-constexpr int kScaleHeight = 50;
+constexpr int kScaleHeight = 70;
 constexpr int kTick = 8;
-constexpr int kTextSize = 16;
+constexpr int kTextSize = 22;
 // The least distance of two numbers of the scale.
-constexpr double kNumberDistance = 60;
+constexpr double kNumberDistance = 70;
 
 // One is light and the other dark, and their hatches run differently.
 struct Look {

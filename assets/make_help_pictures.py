@@ -6,6 +6,7 @@ Needs: Python 3 with python3-cairo, the font Lato (Debian: apt-get install
        python3-cairo fonts-lato), and a built turnbay-play.
 
 Plays each program of samples/ and keeps its simulation area at 480 by 307,
+compares the first of them with what a learner has made of it,
 turns the tool bitmaps into pictures with a transparent ground, copies the icons
 that the text names, and draws the diagrams of help_drawing.py.
 """
@@ -60,6 +61,20 @@ def make_samples(player):
             picture.write_to_png(str(HELP / f"{program.stem}.png"))
 
 
+def make_difference(player):
+    master = ASSETS / "samples" / "stepped_shaft.cnc"
+    learner = (master.read_text("latin-1").replace("X20 Z-2", "X22 Z-2")
+               .replace("G01 Z-21 ", "G01 Z-23 "))
+    with tempfile.TemporaryDirectory() as folder:
+        program, drawn = Path(folder) / "learner.cnc", Path(folder) / "drawn.png"
+        program.write_text(learner, "latin-1")
+        subprocess.run([player, "--compare", master, "--difference", drawn, program],
+                       stderr=subprocess.DEVNULL)
+        surface = cairo.ImageSurface.create_from_png(str(drawn))
+    width, height = surface.get_width() // 2, surface.get_height() // 2
+    scaled_down(surface, width, height).write_to_png(str(HELP / "difference.png"))
+
+
 def make_tool(bitmap):
     """A 24-bit bitmap, bottom row first, with KEY made transparent."""
     data = bitmap.read_bytes()
@@ -100,6 +115,7 @@ def main():
         sys.exit("Usage: make_help_pictures.py TURNBAY-PLAY")
     HELP.mkdir(parents=True, exist_ok=True)
     make_samples(sys.argv[1])
+    make_difference(sys.argv[1])
     for bitmap in sorted((ASSETS / "tools").glob("*.bmp")):
         make_tool(bitmap)
     copy_icons()
