@@ -1,6 +1,8 @@
 #include "inspection/part_shape.h"
 
+#include <algorithm>
 #include <cstddef>
+#include <cstdlib>
 #include <numbers>
 
 #include "platform/numbers.h"
@@ -18,15 +20,31 @@ bool Continues(const Frustum& right, const Frustum& left) {
          leftRise * (right.farColumn - right.nearColumn);
 }
 
+// A taper goes on by a step to a column that it hasn't lowered, and the mark is missing there: no
+// further than it rises beside that, or by the one unit to which radii are rounded.
+bool RunsOn(int step, int riseBeside) {
+  return std::abs(step) <= std::max(1, std::abs(riseBeside)) && step * riseBeside >= 0;
+}
+
+bool IsCone(const Profile& profile, std::size_t left) {
+  const auto isMarked = [&](std::size_t i) {
+    return i < profile.size() && profile[i].TaperMark != 0;
+  };
+  const auto rise = [&](std::size_t i) { return profile[i].Radius - profile[i - 1].Radius; };
+  const std::size_t right = left - 1;
+  if (isMarked(left) && isMarked(right)) return true;
+  if (isMarked(left)) return isMarked(left + 1) && RunsOn(rise(left), rise(left + 1));
+  // In front of column 0 there is none.
+  return isMarked(right) && right > 0 && isMarked(right - 1) && RunsOn(rise(left), rise(right));
+}
+
 }  // namespace
 
 Frustum PieceAt(const Profile& profile, int column) {
   const auto i = static_cast<std::size_t>(column);
   if (i >= profile.size()) return {column - 1, column, 0, 0};
-  const Graphics::ProfileColumn& right = profile[i - 1];
-  const Graphics::ProfileColumn& left = profile[i];
-  const bool isCone = right.TaperMark != 0 && left.TaperMark != 0;
-  return {column - 1, column, isCone ? right.Radius : left.Radius, left.Radius};
+  const int radius = profile[i].Radius;
+  return {column - 1, column, IsCone(profile, i) ? profile[i - 1].Radius : radius, radius};
 }
 
 double Volume(const Frustum& piece) {

@@ -25,7 +25,8 @@ struct Frustum {
 };
 
 // What lies between a column, from 1 on, and its neighbour on the right: a cone between two columns
-// that both bear the taper mark, else a cylinder. Beyond the profile it is empty.
+// that both bear the taper mark, and where a taper runs on to the unmarked column where it began or
+// left the part; else a cylinder. Beyond the profile it is empty.
 Frustum PieceAt(const Profile& profile, int column);
 
 // Cubic millimetres.

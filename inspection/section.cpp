@@ -5,6 +5,7 @@
 #include <cmath>
 #include <cstddef>
 #include <cstdlib>
+#include <ranges>
 #include <string_view>
 #include <vector>
 
@@ -194,8 +195,8 @@ std::vector<Drawing::Point> OutlineOf(const std::vector<Frustum>& body) {
     add(piece.farColumn, piece.farRadius);
   }
   std::vector<Drawing::Point> outline = upper;
-  for (auto point = upper.rbegin(); point != upper.rend(); ++point) {
-    outline.push_back({point->x, -point->y});
+  for (const Drawing::Point& point : upper | std::views::reverse) {
+    outline.push_back({point.x, -point.y});
   }
   return outline;
 }
