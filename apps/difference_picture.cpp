@@ -2,7 +2,6 @@
 
 #include <QImage>
 #include <QPainter>
-#include <QPainterPath>
 #include <algorithm>
 #include <cmath>
 #include <new>
@@ -38,11 +37,11 @@ struct Look {
 };
 const Look kStanding{QColor(240, 160, 0), Qt::black, Qt::BDiagPattern};
 const Look kCutAway{QColor(0, 90, 170), Qt::white, Qt::DiagCrossPattern};
-const QColor kPart(214, 214, 214);
+const Look kCommon{QColor(214, 214, 214), Qt::black, Qt::NoBrush};
 
-void Fill(QPainter& painter, const QPainterPath& area, const Look& look) {
-  painter.fillPath(area, look.colour);
-  painter.fillPath(area, QBrush(look.hatchColour, look.hatch));
+void Fill(QPainter& painter, const QRect& area, const Look& look) {
+  painter.fillRect(area, look.colour);
+  painter.fillRect(area, QBrush(look.hatchColour, look.hatch));
 }
 
 // The part on the picture: the free end at the right, pixels for stock units.
@@ -60,12 +59,17 @@ class Section {
   [[nodiscard]] double Axis() const { return Top() + radius_; }
   [[nodiscard]] double X(double column) const { return (kWidth + length_) / 2 - column * unit_; }
 
-  // Between two radii, above and below the axis, over the length of a column.
-  void AddRing(QPainterPath& path, int column, int from, int to) const {
-    const double left = X(column);
-    const double width = unit_;
-    path.addRect(left, Axis() - to * unit_, width, (to - from) * unit_);
-    path.addRect(left, Axis() + from * unit_, width, (to - from) * unit_);
+  // Between two radii, above and below the axis, over the length of a column. Edges are rounded one
+  // by one, so that neighbours that are smaller than a pixel leave no gap.
+  void FillRing(QPainter& painter, int column, int from, int to, const Look& look) const {
+    const int left = RoundToPixel(X(column));
+    const int width = RoundToPixel(X(column - 1)) - left;
+    const auto fill = [&](double top, double bottom) {
+      const int row = RoundToPixel(top);
+      Fill(painter, {left, row, width, RoundToPixel(bottom) - row}, look);
+    };
+    fill(Axis() - to * unit_, Axis() - from * unit_);
+    fill(Axis() + from * unit_, Axis() + to * unit_);
   }
 
  private:
@@ -76,22 +80,14 @@ class Section {
 
 void DrawMaterial(QPainter& painter, const Section& section, const Profile& part,
                   const Profile& reference, int columns) {
-  QPainterPath common;
-  QPainterPath standing;
-  QPainterPath cutAway;
   for (int column = 1; column <= columns; ++column) {
     const int is = RadiusAt(part, column);
     const int shouldBe = RadiusAt(reference, column);
-    section.AddRing(common, column, 0, std::min(is, shouldBe));
-    if (is > shouldBe) section.AddRing(standing, column, shouldBe, is);
-    if (is < shouldBe) section.AddRing(cutAway, column, is, shouldBe);
+    section.FillRing(painter, column, 0, std::min(is, shouldBe), kCommon);
+    if (is > shouldBe) section.FillRing(painter, column, shouldBe, is, kStanding);
+    if (is < shouldBe) section.FillRing(painter, column, is, shouldBe, kCutAway);
   }
-  // Neighbouring columns share their edges: what lies twice under the path is filled once.
-  for (QPainterPath* path : {&common, &standing, &cutAway}) path->setFillRule(Qt::WindingFill);
-  painter.fillPath(common, kPart);
-  Fill(painter, standing, kStanding);
-  Fill(painter, cutAway, kCutAway);
-  QPen axis(Qt::black, 1, Qt::DashDotLine);
+  const QPen axis(Qt::black, 1, Qt::DashDotLine);
   painter.setPen(axis);
   painter.drawLine(QPointF(section.X(columns) - kMargin / 2.0, section.Axis()),
                    QPointF(section.X(0) + kMargin / 2.0, section.Axis()));
@@ -100,12 +96,11 @@ void DrawMaterial(QPainter& painter, const Section& section, const Profile& part
 // Below the part, since a tenth of a millimetre may be less than a pixel.
 void DrawBands(QPainter& painter, const Section& section, const Comparison& comparison) {
   for (const auto& [nearColumn, farColumn, deviation] : comparison.outside) {
-    const double left = section.X(farColumn);
+    const int left = RoundToPixel(section.X(farColumn));
     // The face at the free end has no length, and is to be seen all the same.
-    const double right = std::max(section.X(std::max(nearColumn - 1, 0)), left + 3);
-    QPainterPath band;
-    band.addRect(left, section.Bottom() + kBandHeight, right - left, kBandHeight);
-    Fill(painter, band, deviation > 0 ? kStanding : kCutAway);
+    const int right = std::max(RoundToPixel(section.X(std::max(nearColumn - 1, 0))), left + 3);
+    const int top = RoundToPixel(section.Bottom()) + kBandHeight;
+    Fill(painter, {left, top, right - left, kBandHeight}, deviation > 0 ? kStanding : kCutAway);
   }
 }
 
@@ -144,23 +139,20 @@ QString SideText(const char* name, const Deviation& side) {
 
 void DrawLegend(QPainter& painter, const Comparison& comparison) {
   int y = kLine;
-  const auto row = [&](const QString& text, const auto& fill) {
-    QPainterPath swatch;
-    swatch.addRect(kMargin, y, 2.0 * kLine, kLine - 6);
-    fill(swatch);
+  const auto row = [&](const QString& text, const Look& look) {
+    const QRect swatch(kMargin, y, 2 * kLine, kLine - 6);
+    Fill(painter, swatch, look);
     painter.setPen(Qt::black);
-    painter.drawPath(swatch);
+    painter.drawRect(swatch);
     painter.drawText(QRectF(kMargin + 3.0 * kLine, y, kWidth, kLine - 6), Qt::AlignVCenter, text);
     y += kLine;
   };
-  row(SideText("Left standing", comparison.standing),
-      [&](const QPainterPath& swatch) { Fill(painter, swatch, kStanding); });
-  row(SideText("Cut away", comparison.cutAway),
-      [&](const QPainterPath& swatch) { Fill(painter, swatch, kCutAway); });
+  row(SideText("Left standing", comparison.standing), kStanding);
+  row(SideText("Cut away", comparison.cutAway), kCutAway);
   const std::string tolerance = NumberText(comparison.tolerance);
   row(QString("As in the reference. A bar below the part: more than %1 mm off on the radius")
           .arg(QString::fromStdString(tolerance)),
-      [&](const QPainterPath& swatch) { painter.fillPath(swatch, kPart); });
+      kCommon);
 }
 
 }  // namespace
