@@ -5,7 +5,7 @@
 #include <cmath>
 #include <cstddef>
 #include <cstdlib>
-#include <ranges>
+#include <iterator>
 #include <string_view>
 #include <vector>
 
@@ -195,9 +195,10 @@ std::vector<Drawing::Point> OutlineOf(const std::vector<Frustum>& body) {
     add(piece.farColumn, piece.farRadius);
   }
   std::vector<Drawing::Point> outline = upper;
-  for (const Drawing::Point& point : upper | std::views::reverse) {
-    outline.push_back({point.x, -point.y});
-  }
+  std::transform(upper.rbegin(), upper.rend(), std::back_inserter(outline),
+                 [](const Drawing::Point& point) {
+                   return Drawing::Point{point.x, -point.y};
+                 });
   return outline;
 }
 
