@@ -125,9 +125,12 @@ class Drawing {
   [[nodiscard]] std::string Svg() const {
     const std::string width = Number(right_ - left_);
     const std::string height = Number(bottom_ - top_);
+    // White paper, also where the viewer is dark.
+    const std::string paper = "<rect x=\"" + Number(left_) + "\" y=\"" + Number(top_) +
+                              "\" width=\"" + width + "\" height=\"" + height + "\"/>\n";
     return "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"" + width + "mm\" height=\"" +
            height + "mm\" viewBox=\"" + Number(left_) + ' ' + Number(top_) + ' ' + width + ' ' +
-           height + "\">\n" + std::string(kHead) + svg_ + texts_ + "</svg>\n";
+           height + "\">\n" + std::string(kHead) + paper + svg_ + texts_ + "</svg>\n";
   }
 
  private:
