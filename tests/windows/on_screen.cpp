@@ -1,0 +1,340 @@
+#include "tests/windows/on_screen.h"
+
+#include <QtWidgets>
+#include <algorithm>
+
+#include "platform/qt/views/colours.h"
+#include "platform/qt/views/grid_view.h"
+#include "platform/qt/views/qt_rich_text.h"
+#include "tests/windows/painted.h"
+
+namespace {
+
+template <class... Kinds>
+bool IsOneOf(const QWidget& widget) {
+  return ((qobject_cast<const Kinds*>(&widget) != nullptr) || ...);
+}
+
+// Behind what groups them without being seen. Qt's own dialogs are their own affair.
+QWidgetList ChildrenOf(const QWidget& parent) {
+  QWidgetList children;
+  if (IsOneOf<QComboBox, QLineEdit, QTextEdit, QAbstractItemView, QMenuBar, QFileDialog,
+              QColorDialog>(parent)) {
+    return children;
+  }
+  for (auto* child : parent.findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+    if (!child->isVisible() || child->isWindow()) continue;
+    const bool isNamed = !child->objectName().isEmpty() && !child->objectName().startsWith("qt_");
+    const bool isTold = isNamed || IsOneOf<QLabel, QPushButton, QTabBar>(*child);
+    children += isTold ? QWidgetList{child} : ChildrenOf(*child);
+  }
+  return children;
+}
+
+// How many stand one behind the other in front of it, by their near and far edges.
+int CountInFront(const QRect& place, const QList<QRect>& all, int (QRect::*near)() const,
+                 int (QRect::*far)() const) {
+  int most = 0;
+  for (const QRect& each : all) {
+    if ((each.*far)() < (place.*near)())
+      most = std::max(most, 1 + CountInFront(each, all, near, far));
+  }
+  return most;
+}
+
+// In a layout by row and column; what has a place of its own in the main window by pixels, as far
+// as the tool bar, which has the height of a font, leaves them.
+QString Place(const QWidget& widget, const QWidgetList& neighbours) {
+  const QRect at = widget.geometry();
+  const QWidget& outer = *widget.parentWidget();
+  const auto* main = qobject_cast<const QMainWindow*>(widget.window());
+  const auto* bar = widget.window()->findChild<QToolBar*>();
+  if (main != nullptr && (&outer == main->centralWidget() || outer.objectName() == "StatusBar")) {
+    const int top = at.y() - (bar->isVisible() ? bar->height() : 0);
+    QString says = QString(" from %1, %2 wide").arg(at.x()).arg(at.width());
+    if (at.height() >= 100) says += QString(", top %1").arg(top);
+    if (at.height() < 100 && bar != &widget) says += QString(", %1 high").arg(at.height());
+    if (bar == &widget || widget.objectName() == "txtDebug") return says;
+    return says + QString(", %1 above the end").arg(outer.height() - at.bottom() - 1);
+  }
+  QList<QRect> all;
+  for (const QWidget* each : neighbours) {
+    if (each->parent() == &outer) all += each->geometry();
+  }
+  return QString(" at %1 %2")
+      .arg(CountInFront(at, all, &QRect::top, &QRect::bottom) + 1)
+      .arg(CountInFront(at, all, &QRect::left, &QRect::right) + 1);
+}
+
+// Where they aren't those of what it stands in.
+QString FontAndColours(const QWidget& widget) {
+  QString says;
+  const bool isWindow = widget.isWindow();
+  const QFont own = widget.font();
+  const QFont usual = isWindow ? QApplication::font() : widget.parentWidget()->font();
+  if (own.family() != usual.family()) says += " in " + own.family();
+  if (own.pointSize() != usual.pointSize()) says += QString(" %1 points").arg(own.pointSize());
+  if (own.bold() != usual.bold()) says += " bold";
+  const QPalette colours = isWindow ? QApplication::palette() : widget.parentWidget()->palette();
+  const auto of = [](const QPalette& palette, QPalette::ColorRole role) {
+    return palette.color(QPalette::Active, role).name(QColor::HexArgb).mid(1);
+  };
+  for (const auto role : {QPalette::Window, QPalette::Base, QPalette::WindowText, QPalette::Text,
+                          QPalette::PlaceholderText}) {
+    const QString colour = of(widget.palette(), role);
+    if (colour != of(colours, role)) {
+      says += ' ' + QVariant::fromValue(role).toString() + ' ' + colour;
+    }
+  }
+  const auto& shown = widget.palette();
+  const bool fades =
+      shown.highlight() != shown.brush(QPalette::Inactive, QPalette::Highlight) ||
+      shown.highlightedText() != shown.brush(QPalette::Inactive, QPalette::HighlightedText);
+  return IsOneOf<QTextEdit>(widget) && fades ? says + " selection fades" : says;
+}
+
+QString ItemsOf(const QAbstractItemModel& model, int current) {
+  QStringList items;
+  for (int i = 0; i < model.rowCount(); ++i) {
+    const QModelIndex index = model.index(i, 0);
+    const QVariant tick = index.data(Qt::CheckStateRole);
+    items += (i == current ? ">" : "") + index.data().toString() +
+             (tick.isValid() ? tick.toInt() == Qt::Checked ? " [x]" : " [ ]" : "") +
+             (index.data(Qt::DecorationRole).value<QIcon>().isNull() ? "" : " icon");
+  }
+  return " of " + items.join(", ");
+}
+
+QString Formats(const QtRichText& text) {
+  QString says = QString(" caret %1 + %2").arg(text.SelStart()).arg(text.SelLength());
+  if (text.textCursor().position() < text.textCursor().anchor()) says += " back";
+  QString font;
+  for (const auto& [start, format] : text.TextRTF().runs) {
+    says += QString(", %1 %2").arg(start).arg(ToQColor(format.color).name());
+    const QString own = QString(" %1 %2").arg(format.fontName.c_str()).arg(format.fontSize) +
+                        (format.bold ? " bold" : "");
+    if (std::exchange(font, own) != own) says += own;
+  }
+  return says;
+}
+
+QString EntrySays(const QAction& entry) {
+  QString says = Quoted(entry.text()) + ' ' + entry.shortcut().toString();
+  if (!entry.icon().isNull()) says += " icon";
+  if (entry.isCheckable()) says += entry.isChecked() ? " [x]" : " [ ]";
+  return says + (entry.isEnabled() ? "" : " closed");
+}
+
+// What the user reads or hears of it.
+QString Says(const QWidget& widget) {
+  QString says = widget.metaObject()->className();
+  for (const char* property : {"windowTitle",
+                               "source",
+                               "text",
+                               "title",
+                               "plainText",
+                               "currentText",
+                               "accessibleName",
+                               "accessibleDescription",
+                               "toolTip",
+                               "placeholderText",
+                               "selectedText",
+                               "cursorPosition",
+                               "checked",
+                               "default",
+                               "modal",
+                               "readOnly",
+                               "icon",
+                               "minimum",
+                               "maximum",
+                               "value",
+                               "toolButtonStyle",
+                               "currentColor"}) {
+    const QVariant value = widget.property(property);
+    const bool isEnum = (value.metaType().flags() & QMetaType::IsEnumeration) != 0;
+    const QString text = isEnum ? QString::number(value.toInt()) : value.toString();
+    const bool isPage = IsOneOf<QTextBrowser>(widget) && qstrcmp(property, "plainText") == 0;
+    if (text.isEmpty() || text == "0" || text == "false" || isPage) continue;
+    says += QString(" %1=").arg(property) + Quoted(text);
+  }
+  if (!widget.isEnabled()) says += " closed";
+  if (const auto* button = qobject_cast<const QAbstractButton*>(&widget)) {
+    const auto mode = button->isEnabled() ? QIcon::Normal : QIcon::Disabled;
+    if (button->icon().availableSizes(mode).isEmpty() && !button->icon().isNull())
+      says += " greyed";
+    if (!button->icon().isNull()) says += " icon";
+  }
+  if (const auto* label = qobject_cast<const QLabel*>(&widget)) {
+    if (label->buddy() != nullptr) says += " -> " + label->buddy()->objectName();
+    if (label->textFormat() != Qt::PlainText && Qt::mightBeRichText(label->text())) says += " rich";
+    const QSize size = label->pixmap().size();
+    if (!size.isEmpty()) says += QString(" picture %1 %2").arg(size.width()).arg(size.height());
+  }
+  if (const auto* box = qobject_cast<const QComboBox*>(&widget)) {
+    says += ItemsOf(*box->model(), box->currentIndex());
+  }
+  if (const auto* list = qobject_cast<const QListWidget*>(&widget)) {
+    says += ItemsOf(*list->model(), list->currentRow());
+  }
+  if (const auto* tabs = qobject_cast<const QTabBar*>(&widget)) {
+    for (int i = 0; i < tabs->count(); ++i) {
+      says += (i == tabs->currentIndex() ? " >" : " ") + tabs->tabText(i);
+    }
+  }
+  if (IsOneOf<QToolBar>(widget)) {
+    for (const QAction* action : widget.actions()) {
+      if (action->isVisible()) says += ' ' + (action->isSeparator() ? "-" : action->objectName());
+    }
+  }
+  if (const auto* pages = qobject_cast<const QTextBrowser*>(&widget)) {
+    const QString found = pages->textCursor().selectedText();
+    const QString before = pages->toPlainText().left(pages->textCursor().selectionStart());
+    const auto count = found.isEmpty() ? 0 : before.count(found, Qt::CaseInsensitive);
+    says += QString(" found %1 after %2").arg(Quoted(found)).arg(count);
+  }
+  if (const auto* dialog = qobject_cast<const QFileDialog*>(&widget)) {
+    says += ' ' + dialog->nameFilters().join(", ") + " in " + dialog->directory().path() +
+            " name " + dialog->findChild<QLineEdit*>("fileNameEdit")->text();
+  }
+  if (const auto* text = dynamic_cast<const QtRichText*>(&widget)) says += Formats(*text);
+  return says + FontAndColours(widget);
+}
+
+// By rows, as painted; the first ones in view are enough, and at the end of the grid the fonts
+// decide which ones these are.
+QString GridSays(const GridView& grid, const QString& name, std::vector<Shown>& shown) {
+  constexpr int kRows = 6;
+  const QScrollBar& bar = *grid.verticalScrollBar();
+  const bool isAtEnd = bar.maximum() > 0 && bar.value() == bar.maximum();
+  const int first = grid.rowAt(grid.horizontalHeader()->isVisible() ? 1 : 0);
+  const int last = isAtEnd || first < 0 ? -1 : std::min(first + kRows, grid.model()->rowCount());
+  for (int row = first; row < last; ++row) {
+    QString says = QString("%1 high ").arg(grid.rowHeight(row)) +
+                   grid.model()->index(row, kMarkColumn).data(Qt::AccessibleTextRole).toString();
+    for (QWidget* part : {grid.verticalHeader()->viewport(), grid.viewport()}) {
+      QString former;
+      for (const auto& [place, what] : PaintedBy(*part)) {
+        if (!part->isVisible() || place.height() > 2 * grid.rowHeight(row)) continue;
+        if (grid.rowAt(place.center().y()) != row || std::exchange(former, what) == what) continue;
+        // A line number gets smaller where its font is too wide.
+        const bool isNumber = part != grid.viewport() && what.startsWith('"');
+        says += ", " + (isNumber ? what.section(' ', 0, 0) : what);
+      }
+      says += part == grid.viewport() ? "" : " |";
+    }
+    shown.push_back({name + QString("/row %1").arg(row + 1), says});
+  }
+  QString says = QString(" rows %1, first in view ").arg(grid.model()->rowCount());
+  says += isAtEnd ? "at the end" : QString::number(first + 1);
+  if (first >= 0 && grid.rowViewportPosition(first) != 0) says += " cut";
+  says += QString(", current %1, columns").arg(grid.currentIndex().row() + 1);
+  for (int i = 0; i <= kTextColumn; ++i) says += QString(" %1").arg(grid.columnWidth(i));
+  return says + QString(", numbers %1").arg(grid.verticalHeader()->width());
+}
+
+// Over which row of the grid it lies, and how far its edges are from those of the text.
+QString EditSays(const QWidget& box) {
+  const auto& grid = *box.window()->findChild<GridView*>("DebugWindow");
+  const QRect place(grid.viewport()->mapFromGlobal(box.mapToGlobal(QPoint())), box.size());
+  if (place.height() <= 0) return " without a size";
+  const int row = grid.rowAt(place.center().y());
+  return QString(" over row %1, off by %2 %3 %4")
+      .arg(row + 1)
+      .arg(place.top() - std::max(0, grid.rowViewportPosition(row)))
+      .arg(place.left() - grid.columnViewportPosition(kTextColumn))
+      .arg(grid.viewport()->width() - 1 - place.right());
+}
+
+// The colours of the picture's middle.
+QString PictureSays(QWidget& widget) {
+  const QImage strip = widget.grab({0, widget.height() / 2, widget.width(), 1}).toImage();
+  QStringList colours;
+  for (int x = 0; x < strip.width(); ++x) colours += strip.pixelColor(x, 0).name();
+  colours.removeDuplicates();
+  return " shows " + colours.join(' ');
+}
+
+// What it fills, from the middle of its left edge.
+QString FillsOf(QWidget& widget) {
+  QString says = " paints";
+  const QPoint axis(widget.contentsRect().left(),
+                    widget.contentsRect().top() + widget.contentsRect().height() / 2);
+  for (const auto& [place, what] : PaintedBy(widget)) {
+    if (!what.startsWith('#')) continue;
+    says += ' ' + what;
+    const QPoint corner = place.topLeft() - axis;
+    if (place.width() > widget.width() / 2) continue;
+    says += QString(" at %1 %2").arg(corner.x()).arg(corner.y());
+    says += QString(" to %1 %2").arg(place.width()).arg(place.height());
+  }
+  for (const auto* tool : widget.findChildren<QLabel*>()) {
+    const QPoint corner = tool->pos() - axis;
+    says += QString(", tool at %1 %2").arg(corner.x()).arg(corner.y());
+  }
+  return says;
+}
+
+void AddMenu(const QMenu& menu, std::vector<Shown>& shown) {
+  const QString name = NameOf(menu);
+  shown.push_back({name, EntrySays(*menu.menuAction()) + (menu.isVisible() ? " up" : "")});
+  for (qsizetype i = 0; i < menu.actions().size(); ++i) {
+    const QAction& entry = *menu.actions()[i];
+    const QString own = entry.isSeparator() ? QString("line %1").arg(i) : entry.objectName();
+    if (entry.isVisible()) shown.push_back({name + '/' + own, EntrySays(entry)});
+  }
+}
+
+void AddChildren(QWidget& parent, const QString& name, std::vector<Shown>& shown) {
+  const QWidgetList children = ChildrenOf(parent);
+  for (QWidget* child : children) {
+    const QString own = NameOf(*child);
+    QString says = Says(*child);
+    if (const auto* grid = dynamic_cast<GridView*>(child)) says += GridSays(*grid, own, shown);
+    if (own == "txtDebug") says += EditSays(*child);
+    if (own == "picSim") says += PictureSays(*child);
+    const bool isSwatch = qstrcmp(child->metaObject()->className(), "QAbstractButton") == 0;
+    if (isSwatch || own == "picSample") says += FillsOf(*child);
+    shown.push_back({name + '/' + own, says + Place(*child, children)});
+    AddChildren(*child, own, shown);
+  }
+}
+
+}  // namespace
+
+QString NameOf(const QWidget& widget) {
+  const bool isNamed = !widget.objectName().isEmpty() && !widget.objectName().startsWith("qt_");
+  if (isNamed) return widget.objectName();
+  if (widget.isWindow() && !widget.windowTitle().isEmpty()) return widget.windowTitle();
+  const QString text = IsOneOf<QAbstractButton>(widget) ? widget.property("text").toString() : "";
+  return text.isEmpty() ? widget.metaObject()->className() : QString(text).remove('&');
+}
+
+QString Quoted(QString text) {
+  return '"' + text.replace('\n', " / ") + '"';
+}
+
+QWidget* FrontWindow() {
+  if (QWidget* popup = QApplication::activePopupWidget()) return popup;
+  QWidget* active = QApplication::activeWindow();
+  return active != nullptr ? active : QApplication::activeModalWidget();
+}
+
+std::vector<Shown> OnScreen() {
+  std::vector<Shown> shown;
+  QWidgetList windows = QApplication::topLevelWidgets();
+  std::ranges::sort(windows, {}, [](const QWidget* window) { return NameOf(*window); });
+  for (QWidget* window : windows) {
+    const auto* menu = qobject_cast<QMenu*>(window);
+    if (menu != nullptr && (menu->isVisible() || menu->objectName().startsWith("mnu"))) {
+      AddMenu(*menu, shown);
+    }
+    if (menu != nullptr || !window->isVisible() || window->windowType() == Qt::ToolTip) continue;
+    shown.push_back({NameOf(*window), Says(*window)});
+    AddChildren(*window, NameOf(*window), shown);
+  }
+  for (const auto& [name, widget] :
+       {std::pair{"in front", FrontWindow()}, {"focus", QApplication::focusWidget()}}) {
+    shown.push_back({name, widget != nullptr ? NameOf(*widget) : ""});
+  }
+  return shown;
+}
