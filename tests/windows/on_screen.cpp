@@ -51,10 +51,11 @@ QString Place(const QWidget& widget, const QWidgetList& neighbours) {
   const auto* bar = widget.window()->findChild<QToolBar*>();
   if (main != nullptr && (&outer == main->centralWidget() || outer.objectName() == "StatusBar")) {
     const int top = at.y() - (bar->isVisible() ? bar->height() : 0);
+    if (widget.objectName() == "txtDebug") return {};
     QString says = QString(" from %1, %2 wide").arg(at.x()).arg(at.width());
     if (at.height() >= 100) says += QString(", top %1").arg(top);
     if (at.height() < 100 && bar != &widget) says += QString(", %1 high").arg(at.height());
-    if (bar == &widget || widget.objectName() == "txtDebug") return says;
+    if (bar == &widget) return says;
     return says + QString(", %1 above the end").arg(outer.height() - at.bottom() - 1);
   }
   QList<QRect> all;
@@ -217,7 +218,7 @@ QString GridSays(const GridView& grid, const QString& name, std::vector<Shown>& 
         if (!part->isVisible() || place.height() > 2 * grid.rowHeight(row)) continue;
         if (grid.rowAt(place.center().y()) != row || std::exchange(former, what) == what) continue;
         // A line number gets smaller where its font is too wide.
-        const bool isNumber = part != grid.viewport() && what.startsWith('"');
+        const bool isNumber = part->width() < 50 && what.startsWith('"');
         says += ", " + (isNumber ? what.section(' ', 0, 0) : what);
       }
       says += part == grid.viewport() ? "" : " |";
