@@ -1,7 +1,9 @@
 #include "mainwindow/listing.h"
 
 #include <QAbstractTextDocumentLayout>
+#include <QGuiApplication>
 #include <QPainter>
+#include <QScreen>
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
@@ -91,7 +93,9 @@ class Pages {
     document_.setDocumentMargin(0);
     QTextOption option;
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-    option.setTabStopDistance(kTabWidth * character_);
+    // Qt scales it from the screen to the printer.
+    const qreal screenDpi = QGuiApplication::primaryScreen()->logicalDotsPerInchY();
+    option.setTabStopDistance(kTabWidth * character_ * qRound(screenDpi) / printer_.logicalDpiY());
     document_.setDefaultTextOption(option);
     numberWidth_ = static_cast<double>(QString::number(document_.blockCount()).size()) * character_;
     QTextBlockFormat format;

@@ -9,10 +9,8 @@
 #include <QTemporaryDir>
 #include <QTemporaryFile>
 #include <QTest>
-#include <QTextBrowser>
 #include <csignal>
 #include <gtest/gtest.h>
-#include <set>
 #include <sys/resource.h>
 
 #include "editor/documents.h"
@@ -209,16 +207,33 @@ TEST(SmallWindowsTest, PrintsToTheFileOfItsDialogOrLeavesItAndTellsWhy) {
   qunsetenv("TMPDIR");
 }
 
+QByteArray Printed(const std::string& text, int from, int to) {
+  QTemporaryFile file("XXXXXX.pdf");
+  QPrinter printer(QPrinter::HighResolution);
+  printer.setOutputFileName(file.open() ? file.fileName() : "");
+  printer.setFromTo(from, to);
+  EXPECT_TRUE(PrintListing({"A", {text, {{}}}, {"Courier", 10}}, printer));
+  return file.readAll();
+}
+
 TEST(SmallWindowsTest, LongLinesGoOnAndOnlyThePagesAskedForAreMade) {
-  const auto pagesOf = [](std::size_t length, int from, int to) {
-    QTemporaryFile file("XXXXXX.pdf");
-    QPrinter printer(QPrinter::HighResolution);
-    printer.setOutputFileName(file.open() ? file.fileName() : "");
-    printer.setFromTo(from, to);
-    EXPECT_TRUE(PrintListing({"A", {std::string(length, 'X'), {{}}}, {"Courier", 10}}, printer));
-    return file.readAll().count("/Type /Page\n");
+  EXPECT_EQ(2, Printed(std::string(20'000, 'X'), 2, 3).count("/Type /Page\n"));
+}
+
+TEST(SmallWindowsTest, TabsPrintEightCharactersApart) {
+  // Where the last character stands, in pixels of the printer.
+  const auto lastPlace = [](const std::string& text) {
+    const QByteArray file = Printed(text, 0, 0);
+    const qsizetype at = file.indexOf("\nstream\n") + 8;
+    const QString drawn = qUncompress(QByteArray(4, '\0') + file.mid(at));
+    static const QRegularExpression move("([\\d.]+) \\S+ Td");
+    double place = 0;
+    for (const auto& step : move.globalMatch(drawn.section("\nBT", -1))) {
+      place += step.captured(1).toDouble();
+    }
+    return place;
   };
-  EXPECT_EQ(2, pagesOf(20'000, 2, 3));
+  EXPECT_NEAR(8 * (lastPlace("00") - lastPlace("0")), lastPlace("0\t0\t0") - lastPlace("0\t0"), 2);
 }
 
 }  // namespace

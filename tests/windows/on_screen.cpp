@@ -25,7 +25,7 @@ QWidgetList ChildrenOf(const QWidget& parent) {
   for (auto* child : parent.findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
     if (!child->isVisible() || child->isWindow()) continue;
     const bool isNamed = !child->objectName().isEmpty() && !child->objectName().startsWith("qt_");
-    const bool isTold = isNamed || IsOneOf<QLabel, QPushButton, QTabBar>(*child);
+    const bool isTold = isNamed || IsOneOf<QLabel, QPushButton, QToolButton, QTabBar>(*child);
     children += isTold ? QWidgetList{child} : ChildrenOf(*child);
   }
   return children;

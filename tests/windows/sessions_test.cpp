@@ -285,7 +285,10 @@ class WindowSessions : public testing::TestWithParam<std::string> {
     const QString item = words.section(' ', 1);
     QWidget* widget = Find(words.section(' ', 0, 0));
     if (auto* list = qobject_cast<QListWidget*>(widget)) list->setCurrentRow(item.toInt() - 1);
-    if (auto* box = qobject_cast<QComboBox*>(widget)) box->setCurrentText(item);
+    auto* box = qobject_cast<QComboBox*>(widget);
+    if (box == nullptr) return;
+    box->setCurrentText(item);
+    emit box->activated(box->currentIndex());
   }
   void Drop(Words name, Qt::DropActions actions) {
     QMimeData data;
@@ -382,6 +385,7 @@ class WindowSessions : public testing::TestWithParam<std::string> {
       {"colour", [](Words w) { TakeColour(w); }},
       {"look", [this](Words w) { Say(Find(w)->visibleRegion().isEmpty() ? "unseen" : "seen"); }},
       {"resize", [this](Words w) { Resize(w); }},
+      {"blank", [](Words) { frmMain::picSim.Cls(); }},
       {"close", [](Words) { FrontWindow()->close(); }},
       {"notification", [](Words w) { frmMain::ShowInfoWindow(w.toShort(), 30'000); }},
       {"theme", [](Words w) { QApplication::setPalette(QPalette(QColor(w))); }},
