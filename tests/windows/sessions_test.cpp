@@ -251,6 +251,9 @@ class WindowSessions : public testing::TestWithParam<std::string> {
     text.isEmpty() ? QTest::keyClick(window, key.key(), modifiers)
                    : QTest::sendKeyEvent(QTest::Click, window, key.key(), text, modifiers);
   }
+  static void KeyPart(QTest::KeyAction action, Words key) {
+    QTest::sendKeyEvent(action, FrontWindow()->windowHandle(), QKeySequence(key)[0].key(), "", {});
+  }
   void Type(Words text) {
     for (const QChar each : text) {
       Key(each.unicode() < 128 ? QTest::asciiToKey(each.toLatin1()) : Qt::Key_unknown, each);
@@ -364,6 +367,8 @@ class WindowSessions : public testing::TestWithParam<std::string> {
        [this](Words w) {
          for (auto& key : w.split(' ')) Key(QKeySequence(key)[0]);
        }},
+      {"down", [](Words w) { KeyPart(QTest::Press, w); }},
+      {"up", [](Words w) { KeyPart(QTest::Release, w); }},
       {"type", [this](Words w) { Type(w); }},
       {"compose", [](Words w) { Compose(w); }},
       {"clipboard", [](Words w) { QApplication::clipboard()->setText(QString(w).remove('\r')); }},
