@@ -280,6 +280,13 @@ void GridView::ShowFocus() {
   verticalHeader()->viewport()->update();
 }
 
+// Rows come into view, columns stay where they are: the marks are in the first.
+void GridView::scrollTo(const QModelIndex& index, ScrollHint hint) {
+  const int left = horizontalScrollBar()->value();
+  QTableView::scrollTo(index, hint);
+  horizontalScrollBar()->setValue(left);
+}
+
 // There is nothing to select or drag.
 void GridView::mouseMoveEvent(QMouseEvent* /*event*/) {}
 void GridView::mouseReleaseEvent(QMouseEvent* /*event*/) {}

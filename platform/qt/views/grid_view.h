@@ -28,6 +28,8 @@ class GridView : public QTableView {
   // The current row while the grid has the focus; -1 else.
   int FocusRow() const { return Click && hasFocus() ? currentIndex().row() : -1; }
 
+  void scrollTo(const QModelIndex& index, ScrollHint hint = EnsureVisible) override;
+
  protected:
   void mousePressEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;
