@@ -71,7 +71,7 @@ QString Place(const QWidget& widget, const QWidgetList& neighbours) {
 QString FontAndColours(const QWidget& widget) {
   QString says;
   const bool isWindow = widget.isWindow();
-  const QFont own = widget.font();
+  const QFont& own = widget.font();
   const QFont usual = isWindow ? QApplication::font() : widget.parentWidget()->font();
   if (own.family() != usual.family()) says += " in " + own.family();
   if (own.pointSize() != usual.pointSize()) says += QString(" %1 points").arg(own.pointSize());
