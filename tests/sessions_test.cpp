@@ -3,9 +3,6 @@
 // written anew.
 
 #include <algorithm>
-#include <cstdlib>
-#include <filesystem>
-#include <fstream>
 #include <iterator>
 
 #include "debugger/run_commands.h"
@@ -27,6 +24,7 @@
 #include "settings/settings.h"
 #include "tests/fakes/machine_test.h"
 #include "tests/fakes/shown.h"
+#include "tests/session_file.h"
 #include "toollib/tool_files.h"
 
 using namespace frmMain;
@@ -314,50 +312,21 @@ void Act(const std::string& row) {
 
 class SessionsTest : public MachineTest, public testing::WithParamInterface<std::string> {};
 
-bool IsSeen(const std::string& line) {
-  return line.starts_with("  ");
-}
-
 TEST_P(SessionsTest, IsAsItIsKept) {
-  const std::string path = TURNBAY_SESSIONS "/" + GetParam() + ".session";
-  std::vector<std::string> lines;
-  std::ifstream file(path);
-  for (std::string line; std::getline(file, line);) lines.push_back(line);
-  const bool writes = std::getenv("TURNBAY_WRITE_GOLDEN") != nullptr;
-  std::string anew;
-  for (std::size_t i = 0; i < lines.size(); ++i) {
-    const std::string& row = lines[i];
-    if (IsSeen(row)) continue;
-    anew += row + '\n';
-    if (row.empty() || row.front() == '#') continue;
-    const testing::ScopedTrace trace(path.c_str(), static_cast<int>(i + 1), row);
+  SessionFile session(std::string(TURNBAY_SESSIONS "/") + GetParam() + ".session");
+  for (std::string row = session.Next(); !row.empty(); row = session.Next()) {
+    SCOPED_TRACE(session.Place());
     seen.clear();
     Act(row);
     Form_Paint();
     Look();
     TellPace();
-    std::string kept;
-    for (std::size_t k = i + 1; k < lines.size() && IsSeen(lines[k]); ++k) kept += lines[k] + '\n';
-    std::string now;
-    for (const std::string& line : seen) {
-      now += "  " + line.substr(0, line.find_last_not_of(' ') + 1) + '\n';
-    }
-    anew += now;
-    if (!writes && kept != now) {
-      ADD_FAILURE() << "it is kept with\n" << kept << "and is now seen with\n" << now;
-    }
+    session.Hold(seen);
   }
-  if (writes) std::ofstream(path) << anew;
 }
 
-std::vector<std::string> Names() {
-  std::vector<std::string> names;
-  for (const auto& file : std::filesystem::directory_iterator(TURNBAY_SESSIONS)) {
-    names.push_back(file.path().stem());
-  }
-  return names;
-}
-INSTANTIATE_TEST_SUITE_P(Kept, SessionsTest, testing::ValuesIn(Names()),
-                         [](const auto& session) { return session.param; });
+INSTANTIATE_TEST_SUITE_P(Kept, SessionsTest,
+                         testing::ValuesIn(SessionFile::NamesIn(TURNBAY_SESSIONS)),
+                         [](const auto& name) { return name.param; });
 
 }  // namespace
