@@ -197,7 +197,12 @@ QString Says(const QWidget& widget) {
     says += ' ' + dialog->nameFilters().join(", ") + " in " + dialog->directory().path() +
             " name " + dialog->findChild<QLineEdit*>("fileNameEdit")->text();
   }
-  if (const auto* text = dynamic_cast<const QtRichText*>(&widget)) says += Formats(*text);
+  if (const auto* text = dynamic_cast<const QtRichText*>(&widget)) {
+    says += Formats(*text);
+    // Far, since fonts differ.
+    if (text->horizontalScrollBar()->maximum() > 3 * text->width())
+      says += " goes on far to the right";
+  }
   return says + FontAndColours(widget);
 }
 
