@@ -1,6 +1,7 @@
 #include "apps/play_options.h"
 
 #include <QCommandLineParser>
+#include <QFileInfo>
 #include <string_view>
 #include <variant>
 
@@ -161,6 +162,31 @@ QStringList NamesOf(const OptionRow& row) {
   return row.name == std::string_view("help") ? QStringList{"h", "help"} : QStringList{row.name};
 }
 
+// The file that a path leads to, by whatever way.
+QString FileOf(const QString& path) {
+  const QFileInfo file(path);
+  return file.exists() ? file.canonicalFilePath() : file.absoluteFilePath();
+}
+
+// Which result would overwrite what is read, or another result; empty: none.
+QString FindOverwriting(const QCommandLineParser& parser, const QStringList& inputs) {
+  QStringList taken;
+  for (const QString& input : inputs) {
+    if (input != "-") taken.append(FileOf(input));
+  }
+  for (const OptionRow& row : kOptions) {
+    if (!std::string_view(row.value).starts_with("FILE") || !parser.isSet(row.name)) continue;
+    const QString path = parser.value(row.name);
+    const QString file = path == "-" ? path : FileOf(path);
+    if (taken.contains(file)) {
+      return QString("--%1 would overwrite \"%2\", which is read or written as well.")
+          .arg(row.name, path);
+    }
+    taken.append(file);
+  }
+  return {};
+}
+
 }  // namespace
 
 ParsedOptions ParsePlayOptions(const QStringList& arguments) {
@@ -196,5 +222,9 @@ ParsedOptions ParsePlayOptions(const QStringList& arguments) {
   if (options.program == "-" && options.compare == "-") {
     return WrongUsage("standard input can't be both the program and what it is compared with.");
   }
+  QStringList inputs = programs;
+  if (parser.isSet("compare")) inputs.append(parser.value("compare"));
+  const QString overwriting = FindOverwriting(parser, inputs);
+  if (!overwriting.isEmpty()) return WrongUsage(overwriting);
   return {options, {}, 0};
 }
