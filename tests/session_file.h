@@ -5,7 +5,43 @@
 #include <fstream>
 #include <gtest/gtest.h>
 #include <string>
+#include <string_view>
 #include <vector>
+
+#include "platform/numbers.h"
+#include "platform/text.h"
+
+inline int Number(std::string_view word) {
+  return static_cast<int>(ParseNumber(word).value_or(0));
+}
+
+// " / " is a line end, and there are "\r", "\n", "\t" and "\xE4"; "\{9 G}" is "GGGGGGGGG".
+inline std::string Unquoted(std::string_view text) {
+  std::string bytes;
+  while (!text.empty()) {
+    std::size_t taken = 1;
+    if (text.starts_with(" / ")) {
+      bytes += kLineEnd;
+      taken = 3;
+    } else if (text.starts_with("\\x")) {
+      taken = 4;
+      constexpr std::string_view kDigits = "0123456789ABCDEF";
+      bytes += static_cast<char>(kDigits.find(text[2]) * 16 + kDigits.find(text[3]));
+    } else if (text.starts_with("\\{")) {
+      taken = text.find('}') + 1;
+      const std::size_t blank = text.find(' ');
+      const std::string item = Unquoted(text.substr(blank + 1, taken - blank - 2));
+      for (int i = Number(text.substr(2, blank - 2)); i > 0; --i) bytes += item;
+    } else if (text.front() == '\\') {
+      taken = 2;
+      bytes += text[1] == 'r' ? '\r' : text[1] == 'n' ? '\n' : '\t';
+    } else {
+      bytes += text.front();
+    }
+    text.remove_prefix(taken);
+  }
+  return bytes;
+}
 
 // A transcript: a row for each thing that a user does, and below it, set in, what is then seen.
 // Rows that begin with # are remarks. With TURNBAY_WRITE_GOLDEN=1 in the environment what is seen

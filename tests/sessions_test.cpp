@@ -42,39 +42,8 @@ int picturesShown = 0;
 std::int64_t playedBefore = 0;
 int yieldsBefore = 0;
 
-int Number(std::string_view word) {
-  return static_cast<int>(ParseNumber(word).value_or(0));
-}
 std::int16_t Number16(std::string_view word) {
   return ClipToInt16(Number(word));
-}
-
-// " / " is a line end, and there are "\r", "\n", "\t" and "\xE4"; "\{9 G}" is "GGGGGGGGG".
-std::string Unquoted(std::string_view text) {
-  std::string bytes;
-  while (!text.empty()) {
-    std::size_t taken = 1;
-    if (text.starts_with(" / ")) {
-      bytes += kLineEnd;
-      taken = 3;
-    } else if (text.starts_with("\\x")) {
-      taken = 4;
-      constexpr std::string_view kDigits = "0123456789ABCDEF";
-      bytes += static_cast<char>(kDigits.find(text[2]) * 16 + kDigits.find(text[3]));
-    } else if (text.starts_with("\\{")) {
-      taken = text.find('}') + 1;
-      const std::size_t blank = text.find(' ');
-      const std::string item = Unquoted(text.substr(blank + 1, taken - blank - 2));
-      for (int i = Number(text.substr(2, blank - 2)); i > 0; --i) bytes += item;
-    } else if (text.front() == '\\') {
-      taken = 2;
-      bytes += text[1] == 'r' ? '\r' : text[1] == 'n' ? '\n' : '\t';
-    } else {
-      bytes += text.front();
-    }
-    text.remove_prefix(taken);
-  }
-  return bytes;
 }
 
 // What has changed since the last look.
