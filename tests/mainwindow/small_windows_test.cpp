@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <QCloseEvent>
 #include <QDialog>
 #include <QFile>
 #include <QLineEdit>
@@ -128,6 +129,19 @@ TEST(SmallWindowsTest, TheProgramEndsBehindAModalNotification) {
   EXPECT_EQ(0, QApplication::exec());
   EXPECT_EQ(nullptr, Up("frmInfo"));
   frmMain::ResetToProgramStart();
+}
+
+TEST(SmallWindowsTest, TheProgramEndsWithoutAskingAWindow) {
+  class Stubborn : public QWidget {
+    void closeEvent(QCloseEvent* event) override { event->ignore(); }
+  };
+  Stubborn window;
+  window.show();
+  QTimer::singleShot(0, qApp, [] {
+    Desktop::EndProgram();
+    Desktop::EndProgram();
+  });
+  EXPECT_EQ(0, QApplication::exec());
 }
 
 TEST(SmallWindowsTest, WithoutAFileForTheViewerTheManualOpensInTheMiddle) {

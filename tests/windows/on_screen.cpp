@@ -126,6 +126,20 @@ QString EntrySays(const QAction& entry) {
   return says + (entry.isEnabled() ? "" : " closed");
 }
 
+QString FilesSay(const QFileDialog& dialog) {
+  QString says = ' ' + dialog.nameFilters().join(", ") + " in " + dialog.directory().path() +
+                 " name " + dialog.findChild<QLineEdit*>("fileNameEdit")->text() + ", beside";
+  for (const QUrl& place : dialog.sidebarUrls()) says += ' ' + place.path();
+  const auto* places = dialog.findChild<QListView*>("sidebar");
+  const auto* files = dialog.findChild<QTreeView*>("treeView");
+  bool isCut = places->width() < places->sizeHintForColumn(0) ||
+               files->viewport()->width() != files->header()->length();
+  for (int column = 1; column < files->header()->count(); ++column) {
+    isCut |= files->columnWidth(column) < files->header()->sectionSizeHint(column);
+  }
+  return isCut ? says + ", cut" : says;
+}
+
 // What the user reads or hears of it.
 QString Says(const QWidget& widget) {
   QString says = widget.metaObject()->className();
@@ -193,10 +207,7 @@ QString Says(const QWidget& widget) {
     const auto count = found.isEmpty() ? 0 : before.count(found, Qt::CaseInsensitive);
     says += QString(" found %1 after %2").arg(Quoted(found)).arg(count);
   }
-  if (const auto* dialog = qobject_cast<const QFileDialog*>(&widget)) {
-    says += ' ' + dialog->nameFilters().join(", ") + " in " + dialog->directory().path() +
-            " name " + dialog->findChild<QLineEdit*>("fileNameEdit")->text();
-  }
+  if (const auto* dialog = qobject_cast<const QFileDialog*>(&widget)) says += FilesSay(*dialog);
   if (const auto* text = dynamic_cast<const QtRichText*>(&widget)) {
     says += Formats(*text);
     // Far, since fonts differ.

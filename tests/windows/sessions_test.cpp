@@ -124,7 +124,7 @@ class WindowSessions : public testing::TestWithParam<std::string> {
     return now;
   }
   QByteArray Bytes(const QString& name) const {
-    QFile file(folder_.filePath(name));
+    QFile file(QDir(folder_.path()).filePath(name));
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
   }
 
@@ -309,8 +309,16 @@ class WindowSessions : public testing::TestWithParam<std::string> {
     }
   }
   void Enter(Words name) {
-    auto* edit = FrontWindow()->findChild<QLineEdit*>("fileNameEdit");
-    edit->setText(folder_.filePath(name));
+    auto* edit = Find<QLineEdit>("fileNameEdit");
+    if (edit == nullptr) return;
+    edit->window()->activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(edit->window()));
+    edit->setFocus();
+    edit->selectAll();
+    // What it offers comes up at any time.
+    edit->setCompleter(nullptr);
+    QTest::keyClicks(edit, QString(name).replace('~', folder_.path()));
+    Say(edit->window()->findChild<QDialogButtonBox*>()->buttons()[0]->text());
     QTest::keyClick(edit, Qt::Key_Return);
   }
   static void TakeColour(Words name) {
@@ -336,6 +344,7 @@ class WindowSessions : public testing::TestWithParam<std::string> {
   }
   void Write(Words name, const QByteArray& bytes) const {
     QFile file(folder_.filePath(name));
+    QFileInfo(file).dir().mkpath(".");
     EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
   }
   static QByteArray Recovery(Words text) {
