@@ -3,13 +3,16 @@
 
 #include <QtTest>
 #include <QtWidgets>
+#include <random>
 
+#include "debugger/run_commands.h"
 #include "editor/recovery_text.h"
 #include "interpreter/machine.h"
 #include "mainwindow/control_surface.h"
 #include "mainwindow/frm_main.h"
 #include "mainwindow/notifications.h"
 #include "mainwindow/program_start.h"
+#include "mainwindow/view_toggles.h"
 #include "platform/host/files.h"
 #include "platform/host/settings_store.h"
 #include "settings/settings.h"
@@ -55,7 +58,11 @@ class WindowSessions : public testing::TestWithParam<std::string> {
     user_.start(0);
     while (!isOver_) {
       QApplication::exec();
-      if (!isOver_) said_.emplace_back("the program ends");
+      if (isMonkey_) {
+        EndMonkey();
+      } else if (!isOver_) {
+        said_.emplace_back("the program ends");
+      }
     }
   }
 
@@ -67,6 +74,7 @@ class WindowSessions : public testing::TestWithParam<std::string> {
   void Step() {
     if (isOver_) return;
     user_.start(0);
+    if (isMonkey_) return DoAnything();
     // There is no window manager to do so.
     if (FrontWindow() == nullptr && window_ && window_->isVisible()) window_->activateWindow();
     if (until_ && !until_() && !deadline_.hasExpired()) return;
@@ -352,6 +360,92 @@ class WindowSessions : public testing::TestWithParam<std::string> {
         frmMain::EncodeRecovery({"/gone/part.cnc", false, text.toStdString()}));
   }
 
+  // From now on, until so many events have come: anything that a user can do, but to leave.
+  void Monkey(int events) {
+    isMonkey_ = true;
+    events_ = qEnvironmentVariable("TURNBAY_MONKEY_EVENTS", QString::number(events)).toInt();
+    auto* exit = window_->findChild<QAction*>("mnuFileExit");
+    exit->setVisible(false);
+    exit->setEnabled(false);
+  }
+  void DoAnything() {
+    EXPECT_TRUE(IsRunning() || !frmMain::Toolbar.Buttons("Pause").Enabled) << "no run to pause";
+    const QPointer<QWidget> popup = QApplication::activePopupWidget();
+    const QPointer<QWidget> dialog = QApplication::activeModalWidget();
+    const QPointer<QWidget> front = popup ? popup : dialog ? dialog : window_.get();
+    if (events_ > 0) {
+      --events_;
+      AnyEvent(front.get());
+    } else if (front != window_.get()) {
+      QTest::keyClick(front.get(), Qt::Key_Escape);
+      // The list of a combo box leaves the key to others.
+      if (front) front->close();
+    } else if (IsRunning()) {
+      frmMain::mnuRunStop_Click();
+    } else {
+      // With all that it has begun.
+      QApplication::exit();
+    }
+  }
+  void EndMonkey() {
+    EXPECT_EQ(0, events_) << "the program has ended";
+    isMonkey_ = false;
+    user_.stop();
+    if (!frmMain::TextEditor().Visible) frmMain::mnuViewTextEditor_Click();
+    frmMain::TextEditor().SetText("[BILLET X20 Z40\r\nG00 X16 Z0\r\nG01 Z-9");
+    frmMain::mnuRunRunToBreakpoint_Click();
+    Say(QString(IsRunning() ? "runs" : "has run") + (window_->isVisible() ? "" : " unseen"));
+    user_.start(0);
+  }
+  // In a dialog of files only names in the own folder.
+  void AnyEvent(QWidget* front) {
+    static const QStringList keys = QString(
+                                        "G X Z M 0 1 6 . Space Return Return Backspace Up Down "
+                                        "Left Right Home End Tab Del PgDown "
+                                        "F2 F5 F6 F7 F8 [ Shift+Up Shift+Down Shift+End Ctrl+F5 "
+                                        "Ctrl+Z Ctrl+Y Ctrl+A Ctrl+C Ctrl+V "
+                                        "Ctrl+N Ctrl+S Ctrl+O")
+                                        .split(' ');
+    auto* files = qobject_cast<QFileDialog*>(front);
+    QWidget* user = front->focusWidget() != nullptr ? front->focusWidget() : front;
+    if (files != nullptr && Below(2) == 0) {
+      files->selectFile(folder_.filePath(QString("part%1.cnc").arg(Below(3))));
+      QTest::keyClick(user, Qt::Key_Return);
+    } else if (files != nullptr || front->inherits("QPrintDialog") ||
+               (front != window_.get() && Below(6) == 0)) {
+      QTest::keyClick(front, Qt::Key_Escape);
+    } else if (const int kind = Below(20); kind < 9) {
+      const QKeyCombination key = QKeySequence(keys[Below(keys.size())])[0];
+      QTest::keyClick(user, key.key(), key.keyboardModifiers());
+    } else if (kind < 16) {
+      ClickAnywhere(front);
+    } else if (kind < 18) {
+      auto commands = window_->findChildren<QAction*>();
+      commands.removeIf(
+          [](auto* a) { return !a->isEnabled() || !a->isVisible() || a->menu() != nullptr; });
+      const bool canChoose = front == window_.get() && !commands.isEmpty();
+      if (canChoose) commands[Below(commands.size())]->trigger();
+    } else if (kind == 18) {
+      frmMain::Slider.Value = Below(13) - 2;
+    } else {
+      window_->resize(200 + Below(900), 150 + Below(600));
+    }
+  }
+  void ClickAnywhere(QWidget* front) {
+    QWidgetList widgets = front->findChildren<QWidget*>();
+    widgets.removeIf([](auto* widget) { return !widget->isVisible() || !widget->isEnabled(); });
+    widgets += front;
+    const QPointer<QWidget> target = widgets[Below(widgets.size())];
+    const QPoint place(Below(target->width() + 1), Below(target->height() + 1));
+    const auto button = Below(8) == 0 ? Qt::RightButton : Qt::LeftButton;
+    if (Below(6) == 0) QTest::mouseDClick(target, button, {}, place);
+    if (target) QTest::mousePress(target, button, {}, place);
+    if (target) QTest::mouseRelease(target, button, {}, place);
+  }
+  int Below(qsizetype limit) {
+    return static_cast<int>(random_() % static_cast<std::size_t>(limit));
+  }
+
   void Wait(Words words) {
     const QString name = words.section(' ', 1);
     const QMap<QString, std::function<bool()>> conditions = {
@@ -399,6 +493,7 @@ class WindowSessions : public testing::TestWithParam<std::string> {
       {"colour", [](Words w) { TakeColour(w); }},
       {"look", [this](Words w) { Say(Find(w)->visibleRegion().isEmpty() ? "unseen" : "seen"); }},
       {"resize", [this](Words w) { Resize(w); }},
+      {"monkey", [this](Words w) { Monkey(w.toInt()); }},
       {"blank", [](Words) { frmMain::picSim.Cls(); }},
       {"close", [](Words) { FrontWindow()->close(); }},
       {"notification", [](Words w) { frmMain::ShowInfoWindow(w.toShort(), 30'000); }},
@@ -430,6 +525,10 @@ class WindowSessions : public testing::TestWithParam<std::string> {
   int depth_ = 0;
   bool isBegun_ = false;
   bool isQuiet_ = false;
+  // Of the monkey: whether it is about, what it still does, and what it thinks of next.
+  bool isMonkey_ = false;
+  int events_ = 0;
+  std::mt19937 random_{1};
   bool isOver_ = false;
   std::function<bool()> until_;
   QDeadlineTimer deadline_;
