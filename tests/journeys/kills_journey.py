@@ -10,7 +10,7 @@ import signal
 import statistics
 import time
 
-from journey import Journey, middle, wait_for
+from journey import Journey, has, middle, wait_for
 
 KILLS = int(os.environ.get("TURNBAY_KILLS", 2))
 LONGEST_LOSS = 10  # Seconds, on a machine that is busy; by the rules two.
@@ -37,7 +37,8 @@ class KillsJourney(Journey):
         self.start_with_splash(home=self.home)
         offered = left is not None and left != disk
         if offered:
-            self.program.find("push button", "Yes")
+            yes = self.program.find("push button", "Yes")
+            wait_for(lambda: has(yes, "FOCUSED"), "the question to have the keyboard")
             self.desktop.key("Return")
             wait_for(lambda: self.program.text() == left.replace("\r\n", "\n"), "what was left")
             self.desktop.key("ctrl+s")

@@ -164,7 +164,8 @@ QString Says(const QWidget& widget) {
                                "maximum",
                                "value",
                                "toolButtonStyle",
-                               "currentColor"}) {
+                               "currentColor",
+                               "autoFillBackground"}) {
     const QVariant value = widget.property(property);
     const bool isEnum = (value.metaType().flags() & QMetaType::IsEnumeration) != 0;
     const QString text = isEnum ? QString::number(value.toInt()) : value.toString();

@@ -18,10 +18,13 @@ class RecoveryFilesTest : public TemporaryFolderTest {
  protected:
   void SetUp() override {
     TemporaryFolderTest::SetUp();
+    // A home that nobody has used yet.
+    folder /= ".local/state";
     setenv("XDG_STATE_HOME", folder.c_str(), 1);
   }
   void TearDown() override {
     RemoveRecoveryFile();
+    folder = folder.parent_path().parent_path();
     TemporaryFolderTest::TearDown();
   }
 
@@ -94,6 +97,7 @@ TEST_F(RecoveryFilesTest, AreVisitedByOneProgramAtATime) {
 }
 
 TEST_F(RecoveryFilesTest, WhatIsInTheWayIsNoObstacle) {
+  fs::create_directories(folder);
   Put("turnbay", "a file");
   EXPECT_FALSE(WriteRecoveryFile("x"));
   EXPECT_THAT(Visit(RecoveryFate::Goes), ElementsAre());
