@@ -1,5 +1,6 @@
 // Every sample and every program of the tests end to end: the report of turnbay-play against the
-// kept one. tests/keep_samples makes the kept reports anew.
+// kept one. TURNBAY_WRITE_GOLDEN=1 writes it anew: look at the sample's picture first, and at what
+// the program's comments promise.
 
 #include <QFile>
 #include <QJsonDocument>
@@ -36,13 +37,16 @@ class SampleTest : public testing::TestWithParam<Case> {};
 
 TEST_P(SampleTest, GivesItsKeptReport) {
   const auto& [program, report] = GetParam();
+  const QString path = QString::fromStdString(program);
+  if (std::getenv("TURNBAY_WRITE_GOLDEN") != nullptr) {
+    QProcess::execute(TURNBAY_PLAY, {"--report", QString::fromStdString(report), path});
+  }
   QFile kept(report);
-  ASSERT_TRUE(kept.open(QIODevice::ReadOnly)) << "look at its picture, then run tests/keep_samples";
+  ASSERT_TRUE(kept.open(QIODevice::ReadOnly)) << "run it with TURNBAY_WRITE_GOLDEN=1";
   const QJsonObject before = QJsonDocument::fromJson(kept.readAll()).object();
   ASSERT_FALSE(before.isEmpty()) << "the kept report can't be read";
 
   // Also as its own reference, of which nothing may be left when it is played itself.
-  const QString path = QString::fromStdString(program);
   QProcess play;
   QStringList arguments{"--report", "-", "--compare", path, path};
   const bool isSample = program.parent_path() == TURNBAY_SAMPLES;
