@@ -247,6 +247,8 @@ QString GridSays(const GridView& grid, const QString& name, std::vector<Shown>& 
   if (first >= 0 && grid.rowViewportPosition(first) != 0) says += " cut";
   says += QString(", current %1, columns").arg(grid.currentIndex().row() + 1);
   for (int i = 0; i <= kTextColumn; ++i) says += QString(" %1").arg(grid.columnWidth(i));
+  if (grid.horizontalHeader()->isVisible())
+    says += QString(", head %1").arg(grid.horizontalHeader()->height());
   return says + QString(", numbers %1").arg(grid.verticalHeader()->width());
 }
 
