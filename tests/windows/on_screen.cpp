@@ -228,6 +228,7 @@ QString GridSays(const GridView& grid, const QString& name, std::vector<Shown>& 
   const int last = isAtEnd || first < 0 ? -1 : std::min(first + kRows, grid.model()->rowCount());
   for (int row = first; row < last; ++row) {
     QString says = QString("%1 high ").arg(grid.rowHeight(row)) +
+                   grid.model()->headerData(row, Qt::Vertical).toString() + ' ' +
                    grid.model()->index(row, kMarkColumn).data(Qt::AccessibleTextRole).toString();
     for (QWidget* part : {grid.verticalHeader()->viewport(), grid.viewport()}) {
       QString former;
