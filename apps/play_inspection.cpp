@@ -110,7 +110,7 @@ QJsonObject InspectionJson(const std::vector<PlacedFinding>& findings,
 std::string MachiningLine(const Inspection::Machining& machining) {
   const Work work = machining.Total();
   std::string line =
-      "Cutting " + TimeText(work.cuttingTime) + ", " + Rounded(work.cuttingLength, 1, "mm");
+      "cutting " + TimeText(work.cuttingTime) + ", " + Rounded(work.cuttingLength, 1, "mm");
   if (work.untimedLength > 0) {
     line += " (" + Rounded(work.untimedLength, 1, "mm") + " without F not timed)";
   }

@@ -259,12 +259,20 @@ bool TellInspection(const PlayOptions& options, const Inspection::Inspector& ins
   return !findings.empty();
 }
 
-// Why the program can't be played, at its place in the file; false when it can.
-bool TellFault(const PlayOptions& options, std::string_view source, RunOutcome run) {
+// What message boxes have told. The last one, why the program can't be played, gets its place in
+// the file; false when it can be played.
+bool TellMessages(const PlayOptions& options, std::string_view source, RunOutcome run) {
   const bool hasFault = run == RunOutcome::SyntaxFault;
-  if (!hasFault && run != RunOutcome::NoBillet) return false;
+  const bool isPlayable = !hasFault && run != RunOutcome::NoBillet;
+  auto messages = Windowless::Messages();
+  const std::string fault = isPlayable ? "" : messages.back().text;
+  if (!isPlayable) messages.pop_back();
+  for (const auto& [text, style, title] : messages) {
+    Say(options.program + ": " + title + (title.empty() ? "" : " ") + text);
+  }
+  if (isPlayable) return false;
   const std::size_t offset = hasFault ? frmMain::TextEditor().SelStart() : BilletOffset();
-  SayAt(options, PlaceOf(source, offset), Windowless::Messages().back().text);
+  SayAt(options, PlaceOf(source, offset), fault);
   return true;
 }
 
@@ -289,7 +297,7 @@ std::optional<Inspection::Part> ReadReference(const PlayOptions& options) {
   if (!ShowProgram(reference.program, *bytes)) return std::nullopt;
   const std::string source = frmMain::TextEditor().Text();
   Play(reference.runToBreakpoint);
-  if (TellFault(reference, source, GlobalVariables::LastRun)) return std::nullopt;
+  if (TellMessages(reference, source, GlobalVariables::LastRun)) return std::nullopt;
   // What went wrong within it has been told, and isn't the program's.
   Windowless::ForgetMessages();
   resumes = 0;
@@ -321,7 +329,7 @@ int Run(const PlayOptions& options) {
     outcome.run = GlobalVariables::LastRun;
     if (inspector) inspector->Finish();
   }
-  const bool isPlayable = !TellFault(options, source, outcome.run);
+  const bool isPlayable = !TellMessages(options, source, outcome.run);
   bool hasFindings = false;
   if (isPlayable) {
     outcome.warnings = BilletWarnings(source);
@@ -341,7 +349,7 @@ int Run(const PlayOptions& options) {
   if (outcome.comparison) SayComparison(options, *outcome.comparison);
   if (!WriteResults(options, outcome, reference)) return kFileTrouble;
   if (!isPlayable) return kNotPlayable;
-  if (inspector) Say(MachiningLine(inspector->Done()));
+  if (inspector) Say(options.program + ": " + MachiningLine(inspector->Done()));
   return hasFindings ? kFindings : kPlayed;
 }
 

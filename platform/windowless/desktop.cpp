@@ -1,7 +1,5 @@
 #include "platform/host/desktop.h"
 
-#include <cstdio>
-#include <unistd.h>
 #include <utility>
 
 #include "platform/host/notifications.h"
@@ -57,11 +55,6 @@ void Sleep(int /*milliseconds*/) {}
 
 int MessageBox(const std::string& text, int style, const std::string& title) {
   messages.push_back({text, style, title});
-  // In place of the progress of the run.
-  if (isatty(STDERR_FILENO) != 0) std::fputs("\r\x1b[K", stderr);
-  // Whole, also where a text holds a NUL.
-  const std::string line = title + (title.empty() ? "" : " ") + text + '\n';
-  std::fwrite(line.data(), 1, line.size(), stderr);
   // The first button is the default one.
   return (style & (kYesNoCancel | kYesNo)) != kOkOnly ? kYes : kOk;
 }

@@ -5,7 +5,7 @@
 #include <vector>
 
 // The desktop of a program without a window: no events, no waiting, no keys, no sound; a message
-// box is a line on standard error and is answered with its default; settings live in memory.
+// box is kept and answered with its default; settings live in memory.
 namespace Windowless {
 
 struct MessageRecord {
