@@ -11,6 +11,11 @@ namespace Inspection {
 
 namespace {
 
+// A rapid move through the part leaves a stretch a tooth: of more than this, only the first are
+// told.
+constexpr std::size_t kMostStretches = 12;
+constexpr std::size_t kFirstStretches = 10;
+
 void Add(Deviation& side, int radius, int column, double volume) {
   if (radius > side.radius) {
     side.radius = radius;
@@ -98,7 +103,12 @@ std::string ComparisonText(const Comparison& comparison, const std::string& part
                             : "differs from " + reference + " by more than " + tolerance);
   add("left standing: " + SideText(comparison.standing));
   add("cut away: " + SideText(comparison.cutAway));
-  for (const Stretch& stretch : comparison.outside) add(StretchText(stretch));
+  const std::size_t stretches = comparison.outside.size();
+  const std::size_t told = stretches > kMostStretches ? kFirstStretches : stretches;
+  for (std::size_t i = 0; i < told; ++i) add(StretchText(comparison.outside[i]));
+  if (told < stretches) {
+    add("and " + DecimalText(static_cast<int>(stretches - told)) + " more such stretches");
+  }
   return text;
 }
 
