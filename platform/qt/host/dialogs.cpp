@@ -87,6 +87,9 @@ class FileDialog : public QFileDialog {
     ShowPlaces();
     ShowWholeColumns();
     edit_ = findChild<QLineEdit*>("fileNameEdit");
+    // Who has chosen a place by mouse goes on by typing a name.
+    connect(findChild<QListView*>("sidebar"), &QListView::clicked, edit_,
+            [this] { edit_->setFocus(); });
     // Qt opens a folder whose name is typed.
     connect(edit_, &QLineEdit::textChanged, this, [this] {
       if (acceptMode() == AcceptSave) setLabelText(Accept, "&Save");
