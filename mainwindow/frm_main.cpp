@@ -98,6 +98,7 @@ void Window::Load() {
   showMaximized();
   FormResized();
   editor_->setFocus();
+  if (editor_->isHidden() && grid_->isHidden()) form_->setFocus();
   // A program that came in while the editor had no size yet.
   editor_->ensureCursorVisible();
   constexpr int kRecoveryInterval = 500;  // milliseconds
@@ -156,14 +157,16 @@ void Window::MakeOverlays() {
   connect(slider_, &QSlider::valueChanged, this, [](int value) { frmMain::Slider.Value = value; });
 }
 
-// The keyboard goes over to the other pane. Qt would give it to the next control, the slider.
+// The keyboard goes to the pane that comes into view, but stays at the slider when a run brings the
+// grid. Without a pane it waits on the form: Qt would give it to the slider, also when the window
+// comes back from behind a dialog.
 void Window::ShowPane(QWidget& pane, QWidget& other, bool visible) {
   const QWidget* user = focusWidget();
   const bool leaves = !visible && (user == &pane || pane.isAncestorOf(user));
-  if (leaves) focusWidget()->clearFocus();
+  if (leaves) form_->setFocus();
   pane.setVisible(visible);
   if (leaves && !other.isHidden()) other.setFocus();
-  if (visible && focusWidget() == nullptr) pane.setFocus();
+  if (visible && mnuView.Enabled) pane.setFocus();
 }
 
 void Window::BindPlaces() {
