@@ -6,6 +6,7 @@ import unittest
 from journey import BUILD, TITLE, Journey, has, keep_screen, place, wait_for
 
 WHITE = (255, 255, 255)
+HIGHLIGHT = bytes((198, 140, 48))  # blue, green, red
 PART = ("[BILLET X20 Z40", "M03 S800", "G00 X16 Z2", "G01 Z-20 F100", "G00 X30", "M30")
 
 
@@ -88,16 +89,24 @@ class RunJourney(Journey):
         self.wait_until_open("Start", "Step")
         self.assert_shows_the_run_of("[BILLET X20 Z40", "G00 X18 Z1", "G01 Z-5", "G00 X39")
 
-    def test_a_slip_is_found_mended_and_run(self):
+    def test_slips_are_found_mended_and_run(self):
         self.start()
         self.set_speed("End")
-        self.type_program("[BILLET X20 Z40", "G00 X18 Z1", "G01 Z-5,5", "G00 X30")
+        self.type_program("[BILLET X20 Z40", "G00 X18 Z1", "G01 Z-5,5", "G00 X")
         self.desktop.key("F5")
         self.program.window("Syntax Error!")
         self.desktop.key("Return")
         self.program.window(TITLE)
         # The fault is selected.
         self.desktop.type(".")
+        self.desktop.key("F5")
+        self.program.window("Syntax Error!")
+        # Where there is nothing to select, the caret is marked.
+        editor = place(self.program.editor())
+        wait_for(lambda: HIGHLIGHT in bytes(self.desktop.picture(*editor).data), "the mark")
+        self.desktop.key("Return")
+        self.program.window(TITLE)
+        self.desktop.type("30")
         self.desktop.key("F5")
         self.wait_for_panel("Tool Position", "X 30.0  Z -5.5")
         self.wait_until_open("Start", "Step")

@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMimeData>
+#include <QPainter>
 #include <QScopedValueRollback>
 #include <QTextBlock>
 #include <QTextCursor>
@@ -18,6 +19,9 @@
 #include "platform/virtual_keys.h"
 
 namespace {
+
+// Of the caret without the keyboard, in pixels.
+constexpr int kMarkWidth = 3;
 
 void SetBackground(QTextEdit& editor, Colour background) {
   QPalette palette = editor.palette();
@@ -183,6 +187,16 @@ void QtRichText::keyPressEvent(QKeyEvent* event) {
   } else {
     QTextEdit::keyPressEvent(event);
   }
+}
+
+// Without the keyboard the caret is a mark, since a fault may have left it where there is nothing
+// to select.
+void QtRichText::paintEvent(QPaintEvent* event) {
+  QTextEdit::paintEvent(event);
+  if (hasFocus() || textCursor().hasSelection()) return;
+  QRect mark = cursorRect();
+  mark.setWidth(kMarkWidth);
+  QPainter(viewport()).fillRect(mark, palette().highlight());
 }
 
 void QtRichText::contextMenuEvent(QContextMenuEvent* event) {
