@@ -1,8 +1,10 @@
 #include "editor/colouring.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <utility>
 
 #include "mainwindow/control_surface.h"
@@ -62,6 +64,24 @@ void ColourStretches(RichText& buffer) {
   }
 }
 
+// Gives the editor this text as an edit of what differs, which the user can undo.
+void EditInto(RichText& editor, std::string_view text) {
+  const std::string former = editor.Text();
+  if (former == text) return;
+  const std::size_t shorter = std::min(former.size(), text.size());
+  const auto common = [](auto from, auto other, std::size_t most) {
+    const auto end = from + static_cast<std::ptrdiff_t>(most);
+    return static_cast<std::size_t>(std::mismatch(from, end, other).first - from);
+  };
+  std::size_t front = common(former.begin(), text.begin(), shorter);
+  // A line end stays whole.
+  if (front > 0 && former[front - 1] == '\r') --front;
+  std::size_t back = common(former.rbegin(), text.rbegin(), shorter - front);
+  if (back > 0 && former[former.size() - back] == '\n') --back;
+  Select(editor, front, former.size() - back);
+  editor.SetSelText(text.substr(front, text.size() - back - front));
+}
+
 }  // namespace
 
 void ColourText() {
@@ -85,6 +105,7 @@ void ColourText() {
 
 void RecolourText(std::string text) {
   const bool saveWasEnabled = Toolbar.Buttons("Save").Enabled;
+  if (text.size() <= kMaxColouredLength) EditInto(TextEditor(), text);
   TextBuffer().SetText(std::move(text));
   ColourText();
   EnableCommands("Save", saveWasEnabled);

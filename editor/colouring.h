@@ -14,7 +14,8 @@ inline constexpr std::size_t kMaxColouredLength = 32'766;
 // Reads: Settings. Writes: TextBuffer, TextEditor, "Save".
 void ColourText();
 
-// Gives the editor this text in colours. "Save" stays as it is.
+// Gives the editor this text in colours; what it changes of the text can be undone. "Save" stays as
+// it is.
 void RecolourText(std::string text);
 
 }  // namespace frmMain

@@ -100,7 +100,7 @@ void Window::Load() {
   editor_->setFocus();
   if (editor_->isHidden() && grid_->isHidden()) form_->setFocus();
   // A program that came in while the editor had no size yet.
-  editor_->ensureCursorVisible();
+  editor_->verticalScrollBar()->setValue(0);
   constexpr int kRecoveryInterval = 500;  // milliseconds
   recoveryTimer_.callOnTimeout(this, RecoveryTimer_Timer);
   recoveryTimer_.start(kRecoveryInterval);

@@ -7,6 +7,7 @@
 #include <QMimeData>
 #include <QPainter>
 #include <QScopedValueRollback>
+#include <QScrollBar>
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
@@ -129,6 +130,8 @@ void QtRichText::SetTextRTF(FormattedText formatted) {
     Fill(formatted);
   }
   Select(0, 0);
+  // The caret alone would leave the margin above it out of sight.
+  verticalScrollBar()->setValue(0);
   NotifyChange();
 }
 
