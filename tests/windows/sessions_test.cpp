@@ -392,6 +392,7 @@ class WindowSessions : public testing::TestWithParam<std::string> {
     isMonkey_ = false;
     user_.stop();
     if (!frmMain::TextEditor().Visible) frmMain::mnuViewTextEditor_Click();
+    if (frmMain::mnuRunStepInto.Checked) frmMain::mnuRunStepInto_Click();
     frmMain::TextEditor().SetText("[BILLET X20 Z40\r\nG00 X16 Z0\r\nG01 Z-9");
     frmMain::mnuRunRunToBreakpoint_Click();
     Say(QString(IsRunning() ? "runs" : "has run") + (window_->isVisible() ? "" : " unseen"));
