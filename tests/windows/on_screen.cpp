@@ -58,6 +58,11 @@ QString Place(const QWidget& widget, const QWidgetList& neighbours) {
     if (bar == &widget) return says;
     return says + QString(", %1 above the end").arg(outer.height() - at.bottom() - 1);
   }
+  const auto* label = qobject_cast<const QLabel*>(&widget);
+  if (outer.layout() == nullptr && label != nullptr && !label->pixmap().isNull()) {
+    const QPoint off = at.center() - outer.rect().center();
+    return off.manhattanLength() <= 2 ? " in the middle" : "";
+  }
   QList<QRect> all;
   for (const QWidget* each : neighbours) {
     if (each->parent() == &outer) all += each->geometry();
