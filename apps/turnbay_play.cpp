@@ -268,7 +268,9 @@ bool TellMessages(const PlayOptions& options, std::string_view source, RunOutcom
   const std::string fault = isPlayable ? "" : messages.back().text;
   if (!isPlayable) messages.pop_back();
   for (const auto& [text, style, title] : messages) {
-    Say(options.program + ": " + title + (title.empty() ? "" : " ") + text);
+    std::string line = options.program + ": ";
+    if (!title.empty()) line += title + ' ';
+    Say(line += text);
   }
   if (isPlayable) return false;
   const std::size_t offset = hasFault ? frmMain::TextEditor().SelStart() : BilletOffset();
