@@ -2,7 +2,7 @@
 
 What is left is never older than the file, nothing that was never typed, and at most LONGEST_LOSS behind
 the keyboard; it is offered exactly when it differs from the file, and opens whole. TURNBAY_KILLS is how
-often; docs/reliability.md tells what came of 300.
+often; docs/reliability.md tells what came of many.
 """
 import os
 import random
@@ -40,10 +40,13 @@ class KillsJourney(Journey):
             yes = self.program.find("push button", "Yes")
             wait_for(lambda: has(yes, "FOCUSED"), "the question to have the keyboard")
             self.desktop.key("Return")
-            wait_for(lambda: self.program.text() == left.replace("\r\n", "\n"),
-                     lambda: f"{left[-80:]!r}, but there is {self.program.text()[-80:]!r}")
+            # A server that hears late of the release presses Return once more, into the text.
+            expected = left.replace("\r\n", "\n").lstrip("\n")
+            wait_for(lambda: self.program.text().lstrip("\n") == expected,
+                     lambda: f"{expected[-80:]!r}, but there is {self.program.text()[-80:]!r}")
             self.desktop.key("ctrl+s")
-            wait_for(lambda: self.on_disk() == left, "what was left on the disk")
+            wait_for(lambda: self.on_disk().lstrip("\r\n") == left.lstrip("\r\n"),
+                     "what was left on the disk")
         wait_for(lambda: self.left() is None, "the end of the recovery file")
         self.assertEqual(self.program.text(), self.on_disk().replace("\r\n", "\n"))
         return offered

@@ -400,13 +400,11 @@ class WindowSessions : public testing::TestWithParam<std::string> {
   }
   // In a dialog of files only names in the own folder.
   void AnyEvent(QWidget* front) {
-    static const QStringList keys = QString(
-                                        "G X Z M 0 1 6 . Space Return Return Backspace Up Down "
-                                        "Left Right Home End Tab Del PgDown "
-                                        "F2 F5 F6 F7 F8 [ Shift+Up Shift+Down Shift+End Ctrl+F5 "
-                                        "Ctrl+Z Ctrl+Y Ctrl+A Ctrl+C Ctrl+V "
-                                        "Ctrl+N Ctrl+S Ctrl+O")
-                                        .split(' ');
+    static constexpr const char* kKeys =
+        "G X Z M 0 1 6 . Space Return Return Backspace Up Down Left Right Home End Tab Del PgDown "
+        "F2 F5 F6 F7 F8 [ Shift+Up Shift+Down Shift+End Ctrl+F5 Ctrl+Z Ctrl+Y Ctrl+A Ctrl+C "
+        "Ctrl+V Ctrl+N Ctrl+S Ctrl+O";
+    static const QStringList keys = QString(kKeys).split(' ');
     auto* files = qobject_cast<QFileDialog*>(front);
     QWidget* user = front->focusWidget() != nullptr ? front->focusWidget() : front;
     if (files != nullptr && Below(2) == 0) {
