@@ -231,6 +231,13 @@ TEST_P(ReplaceFileTest, TakesNoRightsFromTheFolder) {
   EXPECT_TRUE(ReplaceFile(path, kReplacement, reason)) << reason;
   EXPECT_EQ(fs::perms(0600), fs::status(path).permissions());
   EXPECT_EQ(-1, getxattr(path.c_str(), kAccessList, nullptr, 0));
+  // Nor for a list of its own, in which user 7 may write.
+  std::string own = kAccess;
+  own[14] = 6;
+  Put("part.cnc", kOld);
+  EXPECT_EQ(0, setxattr(Path("part.cnc").c_str(), kAccessList, own.data(), own.size(), 0));
+  EXPECT_TRUE(ReplaceFile(Path("part.cnc"), kReplacement, reason)) << reason;
+  EXPECT_EQ(own, Attribute(kAccessList));
 }
 
 TEST_P(ReplaceFileTest, RefusesWhatIsNoOrdinaryFile) {

@@ -66,10 +66,12 @@ TEST_F(PicturesTest, ReadsBitmapsOfEveryDepthAndNoOtherFormat) {
   // Two bytes a pixel, with six bits of green: the key colour.
   std::string bitmap = BmpOfDepth(16);
   bitmap.replace(10, 1, 1, 66).replace(30, 1, 1, 3);
-  bitmap.replace(
-      54, 2, LittleEndian(0xF800, 4) + LittleEndian(0x7E0, 4) + LittleEndian(0x1F, 4) + "\x1F\xF8");
+  bitmap.replace(54, 4,
+                 LittleEndian(0xF800, 4) + LittleEndian(0x7E0, 4) + LittleEndian(0x1F, 4) +
+                     "\x1F\xF8\x20\x04");
   const auto picture = LoadPicture(Put("tool.bmp", bitmap), reason);
   EXPECT_EQ(kTransparent, picture->GetPixel(0, 0));
+  EXPECT_EQ(Rgb(0, 134, 0), picture->GetPixel(1, 0));
   const QImage image(2, 1, QImage::Format_RGB32);
   for (const char* format : {"PNG", "XPM", "PPM", "SVG"}) {
     Put("tool.bmp", "<svg xmlns='http://www.w3.org/2000/svg' width='2' height='1'/>");

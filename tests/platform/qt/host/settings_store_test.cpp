@@ -57,16 +57,18 @@ TEST_F(SettingsStoreTest, GivesBackEveryTextAndReadsWhatQtWroteAsQtReadsIt) {
 TEST_F(SettingsStoreTest, ChangesNothingButTheValueAndWritesOnlyAChange) {
   std::filesystem::create_directory(folder / "turnbay");
   Put("turnbay/CNC.ini",
-      "; mine\r\nlone\n[Debug]\r\nFont = Old, Face \r\nSize=9\nSize=10\n\n[Other]\nx=\\xe9");
+      "; mine\r\nlone\n[Debug]\r\nFont = Old, Face "
+      "\r\nSize=9\nSize=10\n\n[Other]\nx=\\xe9\\x20ac");
   EXPECT_EQ("Old, Face", GetSetting("CNC", "Debug", "Font"));
   EXPECT_EQ("10", GetSetting("CNC", "Debug", "Size")) << "the last one counts";
-  EXPECT_EQ("\xC3\xA9", GetSetting("CNC", "Other", "x"));
+  EXPECT_EQ("\xC3\xA9\xE2\x82\xAC", GetSetting("CNC", "Other", "x"));
   SaveSetting("CNC", "Debug", "Font", "Mono");
   SaveSetting("CNC", "Debug", "Grid", "1");
   SaveSetting("CNC", "New", "y", "2 3");
   EXPECT_EQ(
       "; mine\r\nlone\n[Debug]\r\nFont "
-      "=Mono\r\nSize=9\nSize=10\nGrid=1\n\n[Other]\nx=\\xe9\n\n[New]\ny=\"2 3\"\n",
+      "=Mono\r\nSize=9\nSize=10\nGrid=1\n\n[Other]\nx=\\xe9\\x20ac\n\n[New]\ny=\"2 "
+      "3\"\n",
       Store());
   const auto written = std::filesystem::last_write_time(folder / "turnbay/CNC.ini");
   const auto inode = [&] {
