@@ -3,7 +3,6 @@
 
 #include <QtTest>
 #include <QtWidgets>
-#include <random>
 
 #include "debugger/run_commands.h"
 #include "editor/recovery_text.h"
@@ -17,6 +16,8 @@
 #include "platform/host/settings_store.h"
 #include "settings/settings.h"
 #include "tests/session_file.h"
+#include "tests/windows/hands.h"
+#include "tests/windows/monkey.h"
 #include "tests/windows/on_screen.h"
 #include "toollib/tool_folder.h"
 
@@ -58,7 +59,7 @@ class WindowSessions : public testing::TestWithParam<std::string> {
     user_.start(0);
     while (!isOver_) {
       QApplication::exec();
-      if (isMonkey_) {
+      if (monkey_) {
         EndMonkey();
       } else if (!isOver_) {
         said_.emplace_back("the program ends");
@@ -74,7 +75,7 @@ class WindowSessions : public testing::TestWithParam<std::string> {
   void Step() {
     if (isOver_) return;
     user_.start(0);
-    if (isMonkey_) return DoAnything();
+    if (monkey_) return DoAnything();
     // There is no window manager to do so.
     if (FrontWindow() == nullptr && window_ && window_->isVisible()) window_->activateWindow();
     if (until_ && !until_() && !deadline_.hasExpired()) return;
@@ -186,159 +187,16 @@ class WindowSessions : public testing::TestWithParam<std::string> {
   }
 
   void Act(const QString& row) {
-    const auto verb = verbs_.find(row.section(' ', 0, 0));
-    ASSERT_NE(verbs_.end(), verb) << session_.Place();
+    const QString name = row.section(' ', 0, 0);
     QString words = row.section(' ', 1);
-    (*verb)(words.replace(" / ", "\r\n").replace("\\s", " "));
+    words.replace(" / ", "\r\n").replace("\\s", " ").replace("~", folder_.path());
+    if (const auto verb = verbs_.find(name); verb != verbs_.end()) return (*verb)(words);
+    const auto hand = Hands().find(name);
+    ASSERT_NE(Hands().end(), hand) << session_.Place();
+    (*hand)(words, [this](const QString& line) { Say(line); });
+    calm_ = 0;
   }
 
-  // By its name or caption, of all windows the one in front first, and labels last.
-  template <class T = QWidget>
-  static T* Find(const QString& name) {
-    T* found = nullptr;
-    for (const QWidget* window : QApplication::topLevelWidgets() + QWidgetList{FrontWindow()}) {
-      if (window == nullptr || !window->isVisible()) continue;
-      for (T* child : window->findChildren<T*>()) {
-        const QString text = child->property("text").toString().remove('&');
-        const bool isBetter = found == nullptr || qobject_cast<QLabel*>(child) == nullptr;
-        if ((child->objectName() == name || text == name) && isBetter) found = child;
-      }
-    }
-    if (found == nullptr) ADD_FAILURE() << name.toStdString() << " isn't there";
-    return found;
-  }
-  static QWidget* Surface(QWidget* widget) {
-    auto* area = qobject_cast<QAbstractScrollArea*>(widget);
-    return area != nullptr ? area->viewport() : widget;
-  }
-  // "12 2" is the text of row 12 of the grid in front, "NAME 30 40" a place in a widget.
-  static std::pair<QWidget*, QPoint> At(Words words) {
-    const QStringList parts = words.split(' ');
-    if (parts.size() > 2) return {Surface(Find(parts[0])), {parts[1].toInt(), parts[2].toInt()}};
-    const int row = parts[0].toInt() - 1;
-    const int column = parts[1].toInt();
-    for (auto* grid : FrontWindow()->findChildren<QTableView*>()) {
-      const QRect cell = grid->visualRect(grid->model()->index(row, column));
-      if (column > 0 && grid->isVisible()) return {grid->viewport(), cell.center()};
-      // Beside the border of a line number, too.
-      const QPoint number(5, grid->rowViewportPosition(row) + 1);
-      if (grid->isVisible()) return {grid->verticalHeader()->viewport(), number};
-    }
-    return {FrontWindow(), {}};
-  }
-  static void Press(Words name) {
-    auto* widget = Find(name);
-    if (widget == nullptr || !widget->isEnabled()) return;
-    // Of a box the tick.
-    const bool isBox = qobject_cast<QCheckBox*>(widget) != nullptr;
-    QTest::mouseClick(widget, Qt::LeftButton, {},
-                      isBox ? QPoint(8, widget->height() / 2) : widget->rect().center());
-  }
-  static void Click(Words words, Qt::MouseButton button) {
-    const auto [widget, place] = At(words);
-    QTest::mouseClick(widget, button, {}, place);
-  }
-  static void DoubleClick(Words words) {
-    const auto [widget, place] = At(words);
-    QTest::mouseDClick(widget, Qt::LeftButton, {}, place);
-  }
-  void Drag(Words words) {
-    const auto [widget, from] = At(words);
-    const QPoint to = At(words.section(' ', 0, 0) + ' ' + words.section(' ', 3)).second;
-    QTest::mousePress(widget, Qt::LeftButton, {}, from);
-    QTest::mouseMove(widget, to);
-    Say(QString("pointer %1").arg(widget->cursor().shape()));
-    QTest::mouseRelease(widget, Qt::LeftButton, {}, to);
-  }
-  void Key(QKeyCombination key, const QString& text = {}) {
-    calm_ = 0;
-    QWidget* front = FrontWindow();
-    if (front == nullptr) return Say("nobody hears it");
-    QWindow* window = front->windowHandle();
-    const auto modifiers = key.keyboardModifiers();
-    text.isEmpty() ? QTest::keyClick(window, key.key(), modifiers)
-                   : QTest::sendKeyEvent(QTest::Click, window, key.key(), text, modifiers);
-  }
-  static void KeyPart(QTest::KeyAction action, Words key) {
-    QTest::sendKeyEvent(action, FrontWindow()->windowHandle(), QKeySequence(key)[0].key(), "", {});
-  }
-  void Type(Words text) {
-    for (const QChar each : text) {
-      Key(each.unicode() < 128 ? QTest::asciiToKey(each.toLatin1()) : Qt::Key_unknown, each);
-    }
-  }
-  static void Compose(Words text) {
-    QInputMethodEvent event;
-    event.setCommitString(text);
-    QApplication::sendEvent(QApplication::focusWidget(), &event);
-  }
-  void GoRound() {
-    QStringList reached;
-    while (!reached.contains(NameOf(*QApplication::focusWidget()))) {
-      reached += NameOf(*QApplication::focusWidget());
-      Key(Qt::Key_Tab);
-    }
-    Say("Tab goes " + reached.join(' '));
-  }
-  void Choose(Words name) {
-    auto* action = Find<QAction>(name);
-    if (action == nullptr || !action->isEnabled()) return Say("closed");
-    if (QWidget* menu = QApplication::activePopupWidget()) menu->close();
-    action->trigger();
-  }
-  static void AskForMenu(Words name) {
-    QWidget* widget = Surface(Find(name));
-    const QPoint at(3, 3);
-    QContextMenuEvent press(QContextMenuEvent::Mouse, at, widget->mapToGlobal(at));
-    QApplication::sendEvent(widget, &press);
-  }
-  static void Pick(Words words) {
-    const QString item = words.section(' ', 1);
-    QWidget* widget = Find(words.section(' ', 0, 0));
-    if (auto* list = qobject_cast<QListWidget*>(widget)) list->setCurrentRow(item.toInt() - 1);
-    auto* box = qobject_cast<QComboBox*>(widget);
-    if (box == nullptr) return;
-    box->setCurrentText(item);
-    emit box->activated(box->currentIndex());
-  }
-  void Drop(Words name, Qt::DropActions actions) {
-    QMimeData data;
-    data.setUrls({QUrl::fromLocalFile(folder_.filePath(name))});
-    QDragEnterEvent enter({50, 200}, actions, &data, Qt::LeftButton, {});
-    QDragMoveEvent move({50, 200}, actions, &data, Qt::LeftButton, {});
-    QDropEvent drop({50, 200}, actions, &data, Qt::LeftButton, {});
-    for (QDropEvent* event : std::initializer_list<QDropEvent*>{&enter, &move, &drop}) {
-      event->setDropAction(Qt::MoveAction);
-      event->ignore();
-      QApplication::sendEvent(window_.get(), event);
-      const bool isCopied = event->dropAction() == Qt::CopyAction;
-      Say(!event->isAccepted() ? "refused" : isCopied ? "copied" : "moved");
-      if (!event->isAccepted()) return;
-    }
-  }
-  void Enter(Words name) {
-    auto* edit = Find<QLineEdit>("fileNameEdit");
-    if (edit == nullptr) return;
-    edit->window()->activateWindow();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(edit->window()));
-    edit->setFocus();
-    edit->selectAll();
-    // What it offers comes up at any time.
-    edit->setCompleter(nullptr);
-    QTest::keyClicks(edit, QString(name).replace('~', folder_.path()));
-    Say(edit->window()->findChild<QDialogButtonBox*>()->buttons()[0]->text());
-    QTest::keyClick(edit, Qt::Key_Return);
-  }
-  static void TakeColour(Words name) {
-    auto* dialog = qobject_cast<QColorDialog*>(FrontWindow());
-    dialog->setCurrentColor(QColor(name));
-    dialog->accept();
-  }
-  void Resize(Words words) {
-    window_->showNormal();
-    QCoreApplication::processEvents();
-    window_->resize(words.section(' ', 0, 0).toInt(), words.section(' ', 1).toInt());
-  }
   static void SetPoints(int points) {
     QFont font = QApplication::font();
     font.setPointSize(points);
@@ -360,13 +218,9 @@ class WindowSessions : public testing::TestWithParam<std::string> {
         frmMain::EncodeRecovery({"/gone/part.cnc", false, text.toStdString()}));
   }
 
-  // From now on, until so many events have come: anything that a user can do, but to leave.
-  void Monkey(int events) {
-    isMonkey_ = true;
+  void LetGoMonkey(int events) {
     events_ = qEnvironmentVariable("TURNBAY_MONKEY_EVENTS", QString::number(events)).toInt();
-    auto* exit = window_->findChild<QAction*>("mnuFileExit");
-    exit->setVisible(false);
-    exit->setEnabled(false);
+    monkey_ = std::make_unique<Monkey>(*window_, folder_.path());
   }
   void DoAnything() {
     EXPECT_TRUE(IsRunning() || !frmMain::Toolbar.Buttons("Pause").Enabled) << "no run to pause";
@@ -375,7 +229,7 @@ class WindowSessions : public testing::TestWithParam<std::string> {
     const QPointer<QWidget> front = popup ? popup : dialog ? dialog : window_.get();
     if (events_ > 0) {
       --events_;
-      AnyEvent(front.get());
+      monkey_->Act(front.get());
     } else if (front != window_.get()) {
       QTest::keyClick(front.get(), Qt::Key_Escape);
       // The list of a combo box leaves the key to others.
@@ -389,7 +243,7 @@ class WindowSessions : public testing::TestWithParam<std::string> {
   }
   void EndMonkey() {
     EXPECT_EQ(0, events_) << "the program has ended";
-    isMonkey_ = false;
+    monkey_.reset();
     user_.stop();
     if (!frmMain::TextEditor().Visible) frmMain::mnuViewTextEditor_Click();
     if (frmMain::mnuRunStepInto.Checked) frmMain::mnuRunStepInto_Click();
@@ -398,53 +252,6 @@ class WindowSessions : public testing::TestWithParam<std::string> {
     Say(QString(IsRunning() ? "runs" : "has run") + (window_->isVisible() ? "" : " unseen"));
     user_.start(0);
   }
-  // In a dialog of files only names in the own folder.
-  void AnyEvent(QWidget* front) {
-    static constexpr const char* kKeys =
-        "G X Z M 0 1 6 . Space Return Return Backspace Up Down Left Right Home End Tab Del PgDown "
-        "F2 F5 F6 F7 F8 [ Shift+Up Shift+Down Shift+End Ctrl+F5 Ctrl+Z Ctrl+Y Ctrl+A Ctrl+C "
-        "Ctrl+V Ctrl+N Ctrl+S Ctrl+O";
-    static const QStringList keys = QString(kKeys).split(' ');
-    auto* files = qobject_cast<QFileDialog*>(front);
-    QWidget* user = front->focusWidget() != nullptr ? front->focusWidget() : front;
-    if (files != nullptr && Below(2) == 0) {
-      files->selectFile(folder_.filePath(QString("part%1.cnc").arg(Below(3))));
-      QTest::keyClick(user, Qt::Key_Return);
-    } else if (files != nullptr || front->inherits("QPrintDialog") ||
-               (front != window_.get() && Below(6) == 0)) {
-      QTest::keyClick(front, Qt::Key_Escape);
-    } else if (const int kind = Below(20); kind < 9) {
-      const QKeyCombination key = QKeySequence(keys[Below(keys.size())])[0];
-      QTest::keyClick(user, key.key(), key.keyboardModifiers());
-    } else if (kind < 16) {
-      ClickAnywhere(front);
-    } else if (kind < 18) {
-      auto commands = window_->findChildren<QAction*>();
-      commands.removeIf(
-          [](auto* a) { return !a->isEnabled() || !a->isVisible() || a->menu() != nullptr; });
-      const bool canChoose = front == window_.get() && !commands.isEmpty();
-      if (canChoose) commands[Below(commands.size())]->trigger();
-    } else if (kind == 18) {
-      frmMain::Slider.Value = Below(13) - 2;
-    } else {
-      window_->resize(200 + Below(900), 150 + Below(600));
-    }
-  }
-  void ClickAnywhere(QWidget* front) {
-    QWidgetList widgets = front->findChildren<QWidget*>();
-    widgets.removeIf([](auto* widget) { return !widget->isVisible() || !widget->isEnabled(); });
-    widgets += front;
-    const QPointer<QWidget> target = widgets[Below(widgets.size())];
-    const QPoint place(Below(target->width() + 1), Below(target->height() + 1));
-    const auto button = Below(8) == 0 ? Qt::RightButton : Qt::LeftButton;
-    if (Below(6) == 0) QTest::mouseDClick(target, button, {}, place);
-    if (target) QTest::mousePress(target, button, {}, place);
-    if (target) QTest::mouseRelease(target, button, {}, place);
-  }
-  int Below(qsizetype limit) {
-    return static_cast<int>(random_() % static_cast<std::size_t>(limit));
-  }
-
   void Wait(Words words) {
     const QString name = words.section(' ', 1);
     const QMap<QString, std::function<bool()>> conditions = {
@@ -465,36 +272,8 @@ class WindowSessions : public testing::TestWithParam<std::string> {
          isQuiet_ = true;
          Act(w);
        }},
-      {"key",
-       [this](Words w) {
-         for (auto& key : w.split(' ')) Key(QKeySequence(key)[0]);
-       }},
-      {"down", [](Words w) { KeyPart(QTest::Press, w); }},
-      {"up", [](Words w) { KeyPart(QTest::Release, w); }},
-      {"type", [this](Words w) { Type(w); }},
-      {"compose", [](Words w) { Compose(w); }},
-      {"clipboard", [](Words w) { QApplication::clipboard()->setText(QString(w).remove('\r')); }},
-      {"round", [this](Words) { GoRound(); }},
-      {"focus", [](Words w) { Find(w)->setFocus(); }},
-      {"press", [](Words w) { Press(w); }},
-      {"click", [](Words w) { Click(w, Qt::LeftButton); }},
-      {"right-click", [](Words w) { Click(w, Qt::RightButton); }},
-      {"double-click", [](Words w) { DoubleClick(w); }},
-      {"drag", [this](Words w) { Drag(w); }},
-      {"ask", [](Words w) { AskForMenu(w); }},
-      {"choose", [this](Words w) { Choose(w); }},
-      {"pick", [](Words w) { Pick(w); }},
-      {"scroll",
-       [](Words w) { Find<QTableView>("DebugWindow")->verticalScrollBar()->setValue(w.toInt()); }},
-      {"drop", [this](Words w) { Drop(w, Qt::CopyAction | Qt::MoveAction); }},
-      {"drop-to-move", [this](Words w) { Drop(w, Qt::MoveAction); }},
-      {"enter", [this](Words w) { Enter(w); }},
-      {"colour", [](Words w) { TakeColour(w); }},
-      {"look", [this](Words w) { Say(Find(w)->visibleRegion().isEmpty() ? "unseen" : "seen"); }},
-      {"resize", [this](Words w) { Resize(w); }},
-      {"monkey", [this](Words w) { Monkey(w.toInt()); }},
+      {"monkey", [this](Words w) { LetGoMonkey(w.toInt()); }},
       {"blank", [](Words) { frmMain::picSim.Cls(); }},
-      {"close", [](Words) { FrontWindow()->close(); }},
       {"notification", [](Words w) { frmMain::ShowInfoWindow(w.toShort(), 30'000); }},
       {"theme", [](Words w) { QApplication::setPalette(QPalette(QColor(w))); }},
       {"points", [](Words w) { SetPoints(w.toInt()); }},
@@ -524,10 +303,9 @@ class WindowSessions : public testing::TestWithParam<std::string> {
   int depth_ = 0;
   bool isBegun_ = false;
   bool isQuiet_ = false;
-  // Of the monkey: whether it is about, what it still does, and what it thinks of next.
-  bool isMonkey_ = false;
+  // While it is about, and what it still does.
+  std::unique_ptr<Monkey> monkey_;
   int events_ = 0;
-  std::mt19937 random_{1};
   bool isOver_ = false;
   std::function<bool()> until_;
   QDeadlineTimer deadline_;
