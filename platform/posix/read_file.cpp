@@ -1,3 +1,4 @@
+#include <array>
 #include <cerrno>
 #include <filesystem>
 #include <sys/stat.h>
@@ -11,19 +12,15 @@ namespace {
 
 // Empty on success, else why not.
 std::string ReadToEnd(int file, std::string& bytes) {
-  // Bytes read at a time.
-  constexpr std::size_t kPartSize = 65'536;
+  std::array<char, 65'536> part;
   // Not as large as the file claims to be: it may be growing, and some have no size at all.
-  for (;;) {
-    const std::size_t size = bytes.size();
-    if (size > kMaxFileSize) return "it has more than " + std::to_string(kMaxFileSize) + " bytes";
-    bytes.resize(size + kPartSize);
-    const ssize_t count = read(file, bytes.data() + size, kPartSize);
-    const int error = errno;
-    bytes.resize(size + static_cast<std::size_t>(count > 0 ? count : 0));
+  while (bytes.size() <= kMaxFileSize) {
+    const ssize_t count = read(file, part.data(), part.size());
     if (count == 0) return {};
-    if (count < 0 && error != EINTR) return ErrorWords(error);
+    if (count < 0 && errno != EINTR) return ErrorWords(errno);
+    if (count > 0) bytes.append(part.data(), static_cast<std::size_t>(count));
   }
+  return "it has more than " + std::to_string(kMaxFileSize) + " bytes";
 }
 
 std::string Read(const std::string& path, std::string& bytes) {
