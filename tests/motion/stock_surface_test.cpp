@@ -89,7 +89,7 @@ void WalkAndCompare(unsigned seed) {
       column = below(3 * width) - width;
       radius = below(2 * height) - height / 2;
     } else if (event == 1) {
-      fast.Forget();
+      if (below(2) == 0) fast.Forget();
       tool = &library[below(3)];
     } else if (event == 2) {
       fillBoth({below(50), below(50), below(80), below(80)});

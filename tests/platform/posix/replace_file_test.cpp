@@ -194,11 +194,14 @@ INSTANTIATE_TEST_SUITE_P(Targets, ReplaceFileTest,
 
 TEST_P(ReplaceFileTest, ClearsAwayWhatACrashHasLeft) {
   if (names == 2) return;
-  const std::string path = Prepare();
-  Put(".part.cnc.turnbay-save", "half");
-  EXPECT_TRUE(ReplaceFile(path, kReplacement, reason)) << reason;
-  ExpectWhole(true);
-  EXPECT_EQ(fs::perms(exists ? 0640 : 0644), fs::status(path).permissions());
+  for (const bool unnamed : {true, false}) {
+    const std::string path = Prepare();
+    knowsUnnamedFiles = unnamed;
+    Put(".part.cnc.turnbay-save", "half");
+    EXPECT_TRUE(ReplaceFile(path, kReplacement, reason)) << reason;
+    ExpectWhole(true);
+    EXPECT_EQ(fs::perms(exists ? 0640 : 0644), fs::status(path).permissions());
+  }
 }
 
 TEST_P(ReplaceFileTest, WhatCannotEvenBePutBackLiesBesideAndIsNotReadUntilItIsSaved) {
