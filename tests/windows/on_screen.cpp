@@ -145,6 +145,17 @@ QString FilesSay(const QFileDialog& dialog) {
   return isCut ? says + ", cut" : says;
 }
 
+// Those of windows depend on their fonts.
+QString LimitsOf(const QWidget& widget) {
+  const QSize least = widget.minimumSize();
+  const QSize most = widget.maximumSize();
+  QString says;
+  if (!least.isNull()) says += QString(" from %1 %2").arg(least.width()).arg(least.height());
+  if (most.width() < QWIDGETSIZE_MAX) says += QString(" to %1 wide").arg(most.width());
+  if (most.height() < QWIDGETSIZE_MAX) says += QString(" to %1 high").arg(most.height());
+  return widget.sizePolicy().verticalPolicy() == QSizePolicy::Ignored ? says + " shrinks" : says;
+}
+
 // What the user reads or hears of it.
 QString Says(const QWidget& widget) {
   QString says = widget.metaObject()->className();
@@ -181,6 +192,7 @@ QString Says(const QWidget& widget) {
     says += QString(" %1=").arg(property) + Quoted(text);
   }
   if (!widget.isEnabled()) says += " closed";
+  if (!widget.isWindow() && widget.objectName() != "lblMeasure") says += LimitsOf(widget);
   if (const auto* button = qobject_cast<const QAbstractButton*>(&widget)) {
     const auto mode = button->isEnabled() ? QIcon::Normal : QIcon::Disabled;
     if (button->icon().availableSizes(mode).isEmpty() && !button->icon().isNull())
@@ -282,20 +294,25 @@ QString PictureSays(QWidget& widget) {
   return " shows " + colours.join(' ');
 }
 
-// What it fills, from the middle of its left edge.
-QString FillsOf(QWidget& widget) {
+// What it paints itself, from the middle of its left edge; fonts decide where a text ends, and how
+// wide what reaches far is.
+QString PaintsOf(QWidget& widget) {
   QString says = " paints";
   const QPoint axis(widget.contentsRect().left(),
                     widget.contentsRect().top() + widget.contentsRect().height() / 2);
   for (const auto& [place, what] : PaintedBy(widget)) {
-    if (!what.startsWith('#')) continue;
-    says += ' ' + what;
+    const bool isText = what.startsWith('"');
     const QPoint corner = place.topLeft() - axis;
-    if (place.width() > widget.width() / 2) continue;
+    const bool isFar = (isText ? corner.x() : place.width()) > widget.width() / 2;
+    // The frame that the style draws.
+    if (isFar && what.startsWith("frame")) continue;
+    says += ' ' + what;
+    if (isFar) continue;
     says += QString(" at %1 %2").arg(corner.x()).arg(corner.y());
-    says += QString(" to %1 %2").arg(place.width()).arg(place.height());
+    if (!isText) says += QString(" to %1 %2").arg(place.width()).arg(place.height());
   }
   for (const auto* tool : widget.findChildren<QLabel*>()) {
+    if (tool->pixmap().isNull()) continue;
     const QPoint corner = tool->pos() - axis;
     says += QString(", tool at %1 %2").arg(corner.x()).arg(corner.y());
   }
@@ -320,8 +337,9 @@ void AddChildren(QWidget& parent, const QString& name, std::vector<Shown>& shown
     if (const auto* grid = dynamic_cast<GridView*>(child)) says += GridSays(*grid, own, shown);
     if (own == "txtDebug") says += EditSays(*child);
     if (own == "picSim") says += PictureSays(*child);
-    const bool isSwatch = qstrcmp(child->metaObject()->className(), "QAbstractButton") == 0;
-    if (isSwatch || own == "picSample") says += FillsOf(*child);
+    const QByteArray kind = child->metaObject()->className();
+    const bool isOurs = kind == "QAbstractButton" || kind == "QWidget" || own == "picSample";
+    if (isOurs && own != "picSim") says += PaintsOf(*child);
     shown.push_back({name + '/' + own, says + Place(*child, children)});
     AddChildren(*child, own, shown);
   }
@@ -357,7 +375,17 @@ std::vector<Shown> OnScreen() {
       AddMenu(*menu, shown);
     }
     if (menu != nullptr || !window->isVisible() || window->windowType() == Qt::ToolTip) continue;
-    shown.push_back({NameOf(*window), Says(*window)});
+    QString says = Says(*window);
+    if (window->windowFlags().testFlag(Qt::FramelessWindowHint)) {
+      const QRect at = window->geometry();
+      says += QString(" at %1 %2, %3 wide, %4 high")
+                  .arg(at.x())
+                  .arg(at.y())
+                  .arg(at.width())
+                  .arg(at.height());
+      says += QString(", opaque %1").arg(qRound(255 * window->windowOpacity())) + PaintsOf(*window);
+    }
+    shown.push_back({NameOf(*window), says});
     AddChildren(*window, NameOf(*window), shown);
   }
   for (const auto& [name, widget] :

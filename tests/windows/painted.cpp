@@ -30,14 +30,19 @@ class Notes : public QPaintEngine {
   void drawTextItem(const QPointF& place, const QTextItem& text) override {
     const QFont font = text.font();
     Note({place.x(), place.y() - 1, 1, 1},
-         QString("\"%1\" %2 %3 %4").arg(text.text(), Pen(), font.family()).arg(font.pointSize()) +
+         QString("\"%1\" %2 %3 %4")
+                 .arg(text.text(), Pen(), font.family())
+                 .arg(font.pointSize() > 0 ? font.pointSize() : font.pixelSize()) +
              (font.bold() ? " bold" : ""));
   }
 
   std::vector<Painted> all;
 
  private:
-  QString Pen() const { return painter()->pen().color().name(); }
+  QString Pen() const {
+    const QColor colour = painter()->pen().color();
+    return colour.name(colour.alpha() < 255 ? QColor::HexArgb : QColor::HexRgb);
+  }
   void Note(const QRectF& place, const QString& what) {
     all.push_back({painter()->deviceTransform().mapRect(place).toRect(), what});
   }

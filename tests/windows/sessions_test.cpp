@@ -8,6 +8,7 @@
 #include "editor/recovery_text.h"
 #include "interpreter/machine.h"
 #include "mainwindow/control_surface.h"
+#include "mainwindow/fading_window.h"
 #include "mainwindow/frm_main.h"
 #include "mainwindow/notifications.h"
 #include "mainwindow/program_start.h"
@@ -103,6 +104,11 @@ class WindowSessions : public testing::TestWithParam<std::string> {
     std::vector<Shown> now = LookAround();
     calm_ = now == now_ ? calm_ + 1 : 0;
     now_ = std::move(now);
+    const auto fades = [](QWidget* window) {
+      const auto* box = dynamic_cast<FadingWindow*>(window);
+      return box != nullptr && (box->Timer1.isActive() || box->Timer2.isActive());
+    };
+    if (std::ranges::any_of(QApplication::topLevelWidgets(), fades)) return false;
     const bool isWithin = QApplication::activeModalWidget() != nullptr || IsRunning();
     // A yield of a run handles events several times, and another may follow at once.
     return calm_ >= (IsRunning() ? 30 : 4) && (depth_ == 0 || isWithin);
@@ -259,7 +265,6 @@ class WindowSessions : public testing::TestWithParam<std::string> {
         {"idle", [this] { return !IsRunning(); }},
         {"row", [name] { return frmMain::ProgressBar.Value >= name.toInt(); }},
         {"feed", [] { return !frmMain::StatusBar.Panels("FeedRate").Text.Get().empty(); }},
-        {"fade", [this] { return window_->findChild<QDialog*>("frmInfo") == nullptr; }},
         {"kept", [this, name] { return Bytes("turnbay/1-2.recovery") == Recovery(name); }}};
     until_ = conditions[words.section(' ', 0, 0)];
   }
