@@ -23,6 +23,9 @@ TEST(RecoveryTextTest, EveryChangeOfAByteDamagesAFile) {
     }
     EXPECT_FALSE(DecodeRecovery(bytes + '\n'));
   }
+  // A program of tomorrow reads the files of today.
+  EXPECT_EQ("Turnbay recovery 1 windows-1252 5a130ff2a024354f\n" + std::string("\0000\0G00", 6),
+            EncodeRecovery({"", false, "G00"}));
 }
 
 }  // namespace

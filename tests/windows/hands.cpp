@@ -89,8 +89,9 @@ void KeyPart(QTest::KeyAction action, Words key) {
 }
 
 void Type(Words text, const Tell& tell) {
-  for (const QChar each : text) {
-    Key(each.unicode() < 128 ? QTest::asciiToKey(each.toLatin1()) : Qt::Key_unknown, tell, each);
+  for (const char32_t each : text.toUcs4()) {
+    const auto key = each < 128 ? QTest::asciiToKey(static_cast<char>(each)) : Qt::Key_unknown;
+    Key(key, tell, QString::fromUcs4(&each, 1));
   }
 }
 

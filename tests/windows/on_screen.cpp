@@ -145,9 +145,10 @@ QString FilesSay(const QFileDialog& dialog) {
   return isCut ? says + ", cut" : says;
 }
 
-// Those of windows depend on their fonts.
+// Those of windows depend on their fonts, and so do the heights of labels.
 QString LimitsOf(const QWidget& widget) {
-  const QSize least = widget.minimumSize();
+  QSize least = widget.minimumSize();
+  if (IsOneOf<QLabel>(widget)) least.setHeight(0);
   const QSize most = widget.maximumSize();
   QString says;
   if (!least.isNull()) says += QString(" from %1 %2").arg(least.width()).arg(least.height());

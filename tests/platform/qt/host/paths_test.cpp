@@ -48,6 +48,8 @@ TEST_F(PathsTest, ReadsAllBytesOrSaysWhyNot) {
             reason);
   EXPECT_FALSE(ReadFile(folder, reason));
   EXPECT_THAT(reason, testing::HasSubstr("\" can't be read: it is a folder."));
+  EXPECT_FALSE(ReadFile("/proc/self/mem", reason));
+  EXPECT_THAT(reason, testing::HasSubstr("can't be read: Input/output error."));
   std::ofstream(folder / "large").seekp(kMaxFileSize) << 'x';
   EXPECT_FALSE(ReadFile(Path("large"), reason));
   EXPECT_THAT(reason,
