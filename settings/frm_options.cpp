@@ -67,10 +67,7 @@ OptionsDialog::OptionsDialog(QWidget* parent)
   debug_ = new DebugPage(working_);
   simulation_ = new SimulationPage(working_);
   // The effect colour is on two pages.
-  debug_->ColourChosen = [this] {
-    simulation_->LoadOptions();
-    simulation_->PaintSimulationSample();
-  };
+  debug_->ColourChosen = [this] { simulation_->LoadOptions(); };
   simulation_->ColourChanged = [this] { debug_->cmbDebugColors_Click(); };
   tabs_ = new QTabWidget;
   tabs_->setObjectName("SSTab");

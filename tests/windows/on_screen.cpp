@@ -64,12 +64,19 @@ QString Place(const QWidget& widget, const QWidgetList& neighbours) {
     return off.manhattanLength() <= 2 ? " in the middle" : "";
   }
   QList<QRect> all;
+  int gap = IsOneOf<QGroupBox>(outer) ? 0 : at.top();
   for (const QWidget* each : neighbours) {
-    if (each->parent() == &outer) all += each->geometry();
+    if (each->parent() != &outer) continue;
+    const QRect other = each->geometry();
+    all += other;
+    const bool isAbove =
+        other.bottom() < at.top() && other.left() <= at.right() && at.left() <= other.right();
+    if (isAbove) gap = std::min(gap, at.top() - other.bottom());
   }
   return QString(" at %1 %2")
-      .arg(CountInFront(at, all, &QRect::top, &QRect::bottom) + 1)
-      .arg(CountInFront(at, all, &QRect::left, &QRect::right) + 1);
+             .arg(CountInFront(at, all, &QRect::top, &QRect::bottom) + 1)
+             .arg(CountInFront(at, all, &QRect::left, &QRect::right) + 1) +
+         (gap > at.height() ? " apart" : "");
 }
 
 // Where they aren't those of what it stands in.
