@@ -97,6 +97,15 @@ void StartMachine() {
   frmMain::Form_Resize();
 }
 
+// All of a program but its layout.
+std::string Substance(std::string_view text) {
+  std::string kept;
+  for (const char c : text) {
+    if (std::string_view(" \t\r\n").find(c) == std::string_view::npos) kept += ToUpper(c);
+  }
+  return kept;
+}
+
 // What stands in front of the first byte 1, and what behind.
 std::pair<std::string, std::string> Halves(std::string_view bytes) {
   const std::size_t end = std::min(bytes.find('\1'), bytes.size());
@@ -115,8 +124,10 @@ void Program(std::string_view bytes) {
   RichText& editor = frmMain::TextEditor();
   editor.SetText(WithCrLf(DecodeProgram(bytes).text));
   frmMain::FillDebugWindow();
+  const std::string typed = editor.Text();
   frmMain::ReformatText(editor);
   const std::string reformatted = editor.Text();
+  Require(Substance(reformatted) == Substance(typed), "reformatting loses nothing");
   frmMain::ReformatText(editor);
   Require(editor.Text() == reformatted, "reformatting twice is reformatting once");
   if (frmMain::CheckSyntax(editor)) {

@@ -19,12 +19,14 @@ class RecoveryFilesTest : public TemporaryFolderTest {
   void SetUp() override {
     TemporaryFolderTest::SetUp();
     // A home that nobody has used yet.
+    setenv("HOME", folder.c_str(), 1);
+    unsetenv("XDG_STATE_HOME");
     folder /= ".local/state";
-    setenv("XDG_STATE_HOME", folder.c_str(), 1);
   }
   void TearDown() override {
     RemoveRecoveryFile();
     folder = folder.parent_path().parent_path();
+    setenv("HOME", home_.c_str(), 1);
     TemporaryFolderTest::TearDown();
   }
 
@@ -62,6 +64,9 @@ class RecoveryFilesTest : public TemporaryFolderTest {
     const fs::directory_iterator files(folder / "turnbay");
     return static_cast<std::size_t>(std::distance(begin(files), end(files)));
   }
+
+ private:
+  const std::string home_ = std::getenv("HOME");
 };
 
 TEST_F(RecoveryFilesTest, AreVisitedWhenTheirProgramHasEnded) {
