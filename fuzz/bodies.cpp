@@ -17,7 +17,9 @@
 #include "interpreter/machine.h"
 #include "interpreter/run_driver.h"
 #include "interpreter/tool_change.h"
+#include "mainwindow/control_surface.h"
 #include "mainwindow/layout.h"
+#include "mainwindow/program_start.h"
 #include "motion/player.h"
 #include "motion/stock.h"
 #include "motion/tool.h"
@@ -26,7 +28,7 @@
 #include "platform/settings_text.h"
 #include "platform/text.h"
 #include "settings/settings.h"
-#include "tests/fakes/machine_test.h"
+#include "tests/fakes/fakes.h"
 #include "toollib/tool_files.h"
 
 namespace Fuzz {

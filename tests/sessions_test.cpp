@@ -3,8 +3,12 @@
 // written anew.
 
 #include <algorithm>
+#include <gtest/gtest.h>
 #include <iterator>
+#include <sstream>
 
+#include "debugger/debug_grid.h"
+#include "debugger/row_edit.h"
 #include "debugger/run_commands.h"
 #include "editor/documents.h"
 #include "editor/editor_events.h"
@@ -14,6 +18,10 @@
 #include "interpreter/decoder.h"
 #include "interpreter/machine.h"
 #include "mainwindow/command.h"
+#include "mainwindow/control_surface.h"
+#include "mainwindow/layout.h"
+#include "mainwindow/program_start.h"
+#include "mainwindow/start_up.h"
 #include "mainwindow/view_toggles.h"
 #include "motion/player.h"
 #include "motion/stock.h"
@@ -22,7 +30,7 @@
 #include "platform/text.h"
 #include "settings/options.h"
 #include "settings/settings.h"
-#include "tests/fakes/machine_test.h"
+#include "tests/fakes/fakes.h"
 #include "tests/fakes/shown.h"
 #include "tests/session_file.h"
 #include "toollib/tool_files.h"
@@ -93,6 +101,40 @@ void Resize(int width, int height) {
   ScaleWidth = width;
   ScaleHeight = height;
   Form_Resize();
+}
+
+// Its opaque shape rises to the right of its tip.
+Raster TriangleTool(int width, int height) {
+  Raster picture(width, height);
+  picture.Fill(picture.Area(), kTransparent);
+  for (int x = 0; x < width; ++x) picture.Fill({x, 0, x + 1, height - x}, Rgb(90, 90, 90));
+  return picture;
+}
+
+// The program after its first start: the editor in view beside a simulation area of 400 by 300
+// pixels, a triangle for a default tool, the Slider on the right, sound off.
+void StartMachine() {
+  Fakes::Reset();
+  ResetToProgramStart();
+  Form_Load();
+  Fakes::PutPicture("/app/tools/tool.bmp", TriangleTool(67, 101));
+  ScaleWidth = 519;
+  ScaleHeight = 363;
+  Form_Resize();
+  Slider.Value = SliderControl::kMax;
+  mnuToolsPlaySound.Checked = false;
+}
+
+// `row` counts from 0.
+void ClickRow(int row, int column) {
+  DebugWindow.MouseRow = row;
+  DebugWindow.MouseCol = column;
+  DebugWindow_Click();
+}
+void EditRowAs(int row, const std::string& text) {
+  ClickRow(row, kTextColumn);
+  DebugWindow_DblClick();
+  txtDebug.Text = text;
 }
 
 // Of the first start nothing is in the transcript.
@@ -279,7 +321,15 @@ void Act(const std::string& row) {
   FAIL() << "nobody can " << row;
 }
 
-class SessionsTest : public MachineTest, public testing::WithParamInterface<std::string> {};
+class SessionsTest : public testing::TestWithParam<std::string> {
+ protected:
+  void SetUp() override { StartMachine(); }
+  void TearDown() override {
+    Fakes::Verify();
+    Fakes::Reset();
+    ResetToProgramStart();
+  }
+};
 
 TEST_P(SessionsTest, IsAsItIsKept) {
   SessionFile session(std::string(TURNBAY_SESSIONS "/") + GetParam() + ".session");

@@ -157,7 +157,9 @@ std::string Quoted(std::string_view text) {
   return Shortened(quoted + '"');
 }
 
-std::string OpenCommandNames() {
+// Commands that are open, then "Menus" where those that a run closes are. A menu entry must agree
+// with its button, and the menus with each other.
+static std::string OpenCommandNames() {
   std::string open;
   for (const ToolButton& button : Toolbar) {
     const MenuEntry* entry = kCommands[RowOf(kCommands, button.Key)].Entry;
@@ -170,7 +172,9 @@ std::string OpenCommandNames() {
   return mnuFile.Enabled ? open + "Menus" : open;
 }
 
-std::string ShownRow(int row) {
+// "3 [*]> G01 X20" is row 2 with a break point and the run on it. Break flag, picture, colours and
+// weight must belong to one and the same state.
+static std::string ShownRow(int row) {
   const CellFormat& text = DebugWindow.Format(row, kTextColumn);
   const CellFormat& mark = DebugWindow.Format(row, kMarkColumn);
   const GridPicture picture = mark.Picture;
@@ -188,7 +192,8 @@ std::string ShownRow(int row) {
          (runs ? "> " : "  ") + DebugWindow.TextMatrix(row, kTextColumn);
 }
 
-int ExecutingRow() {
+// The row that carries the execution mark, -1 for none.
+static int ExecutingRow() {
   int found = -1;
   for (int row = 0; row < DebugWindow.Rows(); ++row) {
     if (ShownRow(row).find("]>") == std::string::npos) continue;

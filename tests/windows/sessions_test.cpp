@@ -229,7 +229,13 @@ class WindowSessions : public testing::TestWithParam<std::string> {
     monkey_ = std::make_unique<Monkey>(*window_, folder_.path());
   }
   void DoAnything() {
-    EXPECT_TRUE(IsRunning() || !frmMain::Toolbar.Buttons("Pause").Enabled) << "no run to pause";
+    const auto isOpen = [](frmMain::CommandKey key) {
+      return frmMain::Toolbar.Buttons(key).Enabled;
+    };
+    EXPECT_FALSE(isOpen("Pause") && (isOpen("Start") || !isOpen("Stop"))) << "no run to pause";
+    EXPECT_TRUE(isOpen("New") == isOpen("Options") && isOpen("New") != isOpen("Stop"));
+    EXPECT_FALSE(frmMain::TextEditor().Visible && frmMain::DebugWindow.Visible);
+    EXPECT_FALSE(frmMain::TextEditor().Locked && !isOpen("Stop"));
     const QPointer<QWidget> popup = QApplication::activePopupWidget();
     const QPointer<QWidget> dialog = QApplication::activeModalWidget();
     const QPointer<QWidget> front = popup ? popup : dialog ? dialog : window_.get();
