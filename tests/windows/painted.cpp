@@ -19,7 +19,10 @@ class Notes : public QPaintEngine {
     for (int i = 0; i < count; ++i) Note(rects[i], what);
   }
   void drawLines(const QLineF* lines, int count) override {
-    for (int i = 0; i < count; ++i) Note({lines[i].p1(), lines[i].p2()}, "line " + Pen());
+    for (int i = 0; i < count; ++i) {
+      const bool isUpright = lines[i].x1() == lines[i].x2();
+      Note({lines[i].p1(), lines[i].p2()}, (isUpright ? "upright " : "line ") + Pen());
+    }
   }
   void drawPixmap(const QRectF& place, const QPixmap& picture, const QRectF& /*from*/) override {
     const QImage image = picture.toImage();
