@@ -45,27 +45,6 @@ def wait_for(sign, what):
         time.sleep(0.02)
 
 
-class Picture:
-    """Pixels of the screen. Two are equal when every pixel is."""
-
-    def __init__(self, width, data):
-        self.width = width
-        self.data = data
-
-    def __eq__(self, other):
-        """The fourth byte of each pixel is anybody's."""
-        return all(self.data[i::4] == other.data[i::4] for i in range(3))
-
-    def at(self, x, y):
-        """Red, green, blue."""
-        at = 4 * (y * self.width + x)
-        return self.data[at + 2], self.data[at + 1], self.data[at]
-
-    def colours(self):
-        """How many different ones it has."""
-        return len(set(zip(self.data[0::4], self.data[1::4], self.data[2::4])))
-
-
 class Desktop:
     """1280x900 pixels, unless told otherwise."""
 
@@ -106,17 +85,13 @@ class Desktop:
     # Eyes.
 
     def picture(self, left, top, width, height):
-        """What the screen shows there."""
+        """What the screen shows there; two are equal when every pixel is."""
         image = self.root.get_image(left, top, width, height, X.ZPixmap, 0xFFFFFFFF)
-        return Picture(width, image.data)
-
-    def load(self, file):
-        """A picture file, as `picture` would give it."""
-        with Image.open(file) as image:
-            return Picture(image.width, image.convert("RGBX").tobytes("raw", "BGRX"))
+        return Image.frombytes("RGB", (width, height), image.data, "raw", "BGRX")
 
     def pixel(self, x, y):
-        return self.picture(x, y, 1, 1).at(0, 0)
+        """Red, green, blue."""
+        return self.picture(x, y, 1, 1).getpixel((0, 0))
 
     def windows(self):
         """How many the window manager holds."""

@@ -3,10 +3,12 @@ row edited in a pause; a slip found and mended."""
 import subprocess
 import unittest
 
+from PIL import Image
+
 from journey import BUILD, TITLE, Journey, has, keep_screen, place, wait_for
 
 WHITE = (255, 255, 255)
-HIGHLIGHT = bytes((198, 140, 48))  # blue, green, red
+HIGHLIGHT = bytes((48, 140, 198))
 PART = ("[BILLET X20 Z40", "M03 S800", "G00 X16 Z2", "G01 Z-20 F100", "G00 X30", "M30")
 
 
@@ -18,8 +20,8 @@ class RunJourney(Journey):
         left, top, width, height = self.area
         subprocess.run([BUILD / "bin/turnbay-play", "--size", f"{width}x{height}",
                         "--picture", picture, part], check=True, stdout=subprocess.DEVNULL)
-        expected = self.desktop.load(picture)
-        wait_for(lambda: self.desktop.picture(*self.area) == expected,
+        expected = Image.open(picture).convert("RGB").tobytes()
+        wait_for(lambda: self.desktop.picture(*self.area).tobytes() == expected,
                  "the picture that the player makes")
 
     def test_first_program(self):
@@ -103,7 +105,7 @@ class RunJourney(Journey):
         self.program.window("Syntax Error!")
         # Where there is nothing to select, the caret is marked.
         editor = place(self.program.editor())
-        wait_for(lambda: HIGHLIGHT in bytes(self.desktop.picture(*editor).data), "the mark")
+        wait_for(lambda: HIGHLIGHT in self.desktop.picture(*editor).tobytes(), "the mark")
         self.desktop.key("Return")
         self.program.window(TITLE)
         self.desktop.type("30")

@@ -1,6 +1,8 @@
 """What the windows look like at rest: splash, About, notifications, 3D; scaled and dark."""
 import unittest
 
+from PIL import Image
+
 from journey import NO_SPLASH, ROOT, TITLE, Desktop, Journey, keep_screen, place, wait_for
 
 SPLASH = (543, 355)  # Pixels.
@@ -14,13 +16,13 @@ class WindowsJourney(Journey):
         opacity of 250 leaves of what lies behind."""
         width, height = self.desktop.size
         left, top = (width - SPLASH[0]) // 2, (height - SPLASH[1]) // 2
-        expected = self.desktop.load(ROOT / "assets/pictures/splash.png")
+        expected = Image.open(ROOT / "assets/pictures/splash.png").convert("RGB")
         spots = [(x, y) for x in range(40, 500, 20) for y in range(20, 230, 10)]
 
         def look():
             seen = self.desktop.picture(left, top, *SPLASH)
-            return all(abs(a - b) <= 6 for x, y in spots
-                       for a, b in zip(seen.at(x, y), expected.at(x, y)))
+            return all(abs(a - b) <= 6 for spot in spots
+                       for a, b in zip(seen.getpixel(spot), expected.getpixel(spot)))
         wait_for(look, "the splash at rest")
 
     def wait_for_notification(self):
@@ -64,7 +66,7 @@ class WindowsJourney(Journey):
         self.desktop.key("F12")
         wait_for(lambda: self.desktop.active_title() == "3D", "the 3D window")
         whole = (0, 0, *self.desktop.size)
-        wait_for(lambda: self.desktop.picture(*whole).colours() > 20, "the part")
+        wait_for(lambda: len(self.desktop.picture(*whole).getcolors(2**24)) > 20, "the part")
         before = self.desktop.picture(*whole)
         keep_screen("part")
         self.desktop.key("KP_1")

@@ -202,7 +202,9 @@ const QMap<QString, Hand>& Hands() {
       {"pick", [](Words w, const Tell&) { Pick(w); }},
       {"scroll",
        [](Words w, const Tell&) {
-         Find<QTableView>("DebugWindow")->verticalScrollBar()->setValue(w.toInt());
+         auto* grid = Find<QTableView>("DebugWindow");
+         grid->verticalScrollBar()->setValue(w.section(' ', 0, 0).toInt());
+         grid->horizontalScrollBar()->setValue(w.section(' ', 1).toInt());
        }},
       {"drop", [](Words w, const Tell& tell) { Drop(w, Qt::CopyAction | Qt::MoveAction, tell); }},
       {"drop-to-move", [](Words w, const Tell& tell) { Drop(w, Qt::MoveAction, tell); }},

@@ -3,6 +3,7 @@
 #include <csignal>
 #include <cstdlib>
 #include <gmock/gmock.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -114,7 +115,7 @@ TEST_F(RecoveryFilesTest, WhatIsInTheWayIsNoObstacle) {
   RemoveRecoveryFile();
   // A program was killed before its first write; a file can't be read; somebody else's files.
   Put("turnbay/1-2.lock", "");
-  fs::create_directory(folder / "turnbay/3-4.recovery");
+  mkfifo(Path("turnbay/3-4.recovery").c_str(), 0600);
   Put("turnbay/notes.txt", "mine");
   EXPECT_THAT(Visit(RecoveryFate::Goes), ElementsAre());
   EXPECT_FALSE(fs::exists(folder / "turnbay/1-2.lock"));
