@@ -128,6 +128,7 @@ class HelpWindow : public QWidget {
     hint.setAlpha(kHintAlpha);
     colours.setColor(QPalette::PlaceholderText, hint);
     setPalette(colours);
+    buttons_.setObjectName("Buttons");
     buttons_.addSeparator();
     buttons_.addWidget(&find_);
     connect(&find_, &QLineEdit::textEdited, this, [this] {

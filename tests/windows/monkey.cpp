@@ -32,8 +32,11 @@ void Monkey::Act(QWidget* front) {
     ClickAnywhere(front);
   } else if (kind < 18) {
     auto commands = window_.findChildren<QAction*>();
-    commands.removeIf(
-        [](auto* a) { return !a->isEnabled() || !a->isVisible() || a->menu() != nullptr; });
+    commands.removeIf([](auto* a) {
+      const auto* menu = qobject_cast<QMenu*>(a->parent());
+      const bool isClosed = menu != nullptr && !menu->menuAction()->isEnabled();
+      return isClosed || !a->isEnabled() || !a->isVisible() || a->menu() != nullptr;
+    });
     const bool canChoose = front == &window_ && !commands.isEmpty();
     if (canChoose) commands[Below(commands.size())]->trigger();
   } else if (kind == 18) {

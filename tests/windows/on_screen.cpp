@@ -189,6 +189,7 @@ QString Says(const QWidget& widget) {
                                "value",
                                "toolButtonStyle",
                                "currentColor",
+                               "margin",
                                "autoFillBackground"}) {
     const QVariant value = widget.property(property);
     const bool isEnum = (value.metaType().flags() & QMetaType::IsEnumeration) != 0;
@@ -265,6 +266,7 @@ QString GridSays(const GridView& grid, const QString& name, std::vector<Shown>& 
         // A line number gets smaller where its font is too wide.
         const bool isNumber = part->width() < 50 && what.startsWith('"');
         says += ", " + (isNumber ? what.section(' ', 0, 0) : what);
+        if (isNumber && place.right() > part->width()) says += " cut";
       }
       says += part == grid.viewport() ? "" : " |";
     }

@@ -32,7 +32,7 @@ class Notes : public QPaintEngine {
   }
   void drawTextItem(const QPointF& place, const QTextItem& text) override {
     const QFont font = text.font();
-    Note({place.x(), place.y() - 1, 1, 1},
+    Note({place.x(), place.y() - 1, text.width(), 1},
          QString("\"%1\" %2 %3 %4")
                  .arg(text.text(), Pen(), font.family())
                  .arg(font.pointSize() > 0 ? font.pointSize() : font.pixelSize()) +

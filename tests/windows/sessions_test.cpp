@@ -159,11 +159,27 @@ class WindowSessions : public testing::TestWithParam<std::string> {
           });
       if (!isQuiet_ && !isUp(line.name) && !goesAlong) Say(line.name + " is gone");
     }
+    QWidget* front = FrontWindow();
+    EXPECT_TRUE(front == nullptr || IsPainted(*front)) << session_.Place() << " isn't painted";
     if (isBegun_) session_.Hold(said_);
     isBegun_ = true;
     isQuiet_ = false;
     said_.clear();
     told_ = now_;
+  }
+  // Whether it shows what it would paint now, but for the rest of a line.
+  static bool IsPainted(QWidget& window) {
+    const auto rgb = [](const QPixmap& picture) {
+      return picture.toImage().convertToFormat(QImage::Format_RGB32);
+    };
+    const QImage shown = rgb(window.screen()->grabWindow(window.winId()));
+    const QImage due = rgb(window.grab());
+    if (shown.size() != due.size()) return true;
+    int stale = 0;
+    for (int y = 0; y < due.height(); ++y) {
+      for (int x = 0; x < due.width(); ++x) stale += shown.pixel(x, y) != due.pixel(x, y) ? 1 : 0;
+    }
+    return stale < 100;
   }
   void Say(QString line) {
     line.replace(folder_.path(), "~").replace(ApplicationFolder().c_str(), "/app");
