@@ -41,6 +41,11 @@ bool HasWord(std::span<const Word> words, char letter, std::int16_t number) {
   return std::ranges::any_of(words, [&](const Word& word) { return IsWord(word, letter, number); });
 }
 
+bool IsMWord(const Word& word, std::span<const std::int16_t> numbers) {
+  return std::ranges::any_of(numbers,
+                             [&](std::int16_t number) { return IsWord(word, 'M', number); });
+}
+
 const GFunction* FunctionOf(const Word& word) {
   return word.Letter() == 'G' ? FindFunction(ParseInt16(word.Number())) : nullptr;
 }

@@ -32,6 +32,13 @@ bool HasLetter(std::span<const Word> words, std::string_view letters);
 bool IsWord(const Word& word, char letter, std::int16_t number);
 bool HasWord(std::span<const Word> words, char letter, std::int16_t number);
 
+// Whether the word is M with one of the numbers.
+bool IsMWord(const Word& word, std::span<const std::int16_t> numbers);
+
+// The M functions that start the spindle, and the one that stops it.
+inline constexpr std::int16_t kSpindleStarts[] = {3, 4, 13, 14};
+inline constexpr std::int16_t kSpindleStop = 5;
+
 // The G function that a word names; null for another word and for a number of no function.
 const ModCNC::GFunction* FunctionOf(const Word& word);
 

@@ -46,16 +46,8 @@ const std::string& RowText(int row) {
   return DebugWindow.TextMatrix(row, frmMain::kTextColumn);
 }
 
-bool IsPanel(frmMain::PanelKey key, std::string_view text) {
-  return frmMain::StatusBar.Panels(key).Text.Get() == text;
-}
-
-bool IsSpindleOn() {
-  return !IsPanel("SpindleDirection", "");
-}
-
 bool IsCoolantOn() {
-  return IsPanel("Coolant", "Coolant: ON");
+  return frmMain::StatusBar.Panels("Coolant").Text.Get() == "Coolant: ON";
 }
 
 // What M words ahead of the end of the run in its own block make of what was on.
@@ -64,15 +56,11 @@ bool IsOnAtEnd(bool isOn, std::span<const Word> words, std::span<const std::int1
   for (const Word& word : words) {
     if (IsWord(word, 'M', 2) || IsWord(word, 'M', 30)) break;
     if (IsWord(word, 'M', stop)) isOn = false;
-    if (std::ranges::any_of(starts, [&](auto start) { return IsWord(word, 'M', start); })) {
-      isOn = true;
-    }
+    if (IsMWord(word, starts)) isOn = true;
   }
   return isOn;
 }
 
-constexpr std::int16_t kSpindleStarts[] = {3, 4, 13, 14};
-constexpr std::int16_t kSpindleStop = 5;
 constexpr std::int16_t kCoolantStarts[] = {8, 13, 14};
 constexpr std::int16_t kCoolantStop = 9;
 

@@ -47,19 +47,11 @@ bool Fits(const Word& word) {
          ModCNC::WordValue(word.Number(), rule->scale).has_value();
 }
 
-bool IsOneOf(const Word& word, std::span<const std::int16_t> numbers) {
-  return std::ranges::any_of(numbers,
-                             [&](std::int16_t number) { return IsWord(word, 'M', number); });
-}
-
-constexpr std::int16_t kSpindleStarts[] = {3, 4, 13, 14};
-constexpr std::int16_t kSpindleStop = 5;
+}  // namespace
 
 bool IsSpindleOn() {
   return !frmMain::StatusBar.Panels("SpindleDirection").Text.Get().empty();
 }
-
-}  // namespace
 
 void WordUse::OnRow(int row, std::span<const Word> words, std::int16_t function) {
   const Word* lastFunction = nullptr;
@@ -117,7 +109,7 @@ void WordUse::TakeAllOf(int row, std::span<const Word> words) {
 void WordUse::WriteSpeed(std::span<const Word> words) {
   bool isOn = IsSpindleOn();
   for (const Word& word : words) {
-    if (IsOneOf(word, kSpindleStarts)) {
+    if (IsMWord(word, kSpindleStarts)) {
       isOn = true;
       Take("S");
     } else if (IsWord(word, 'M', kSpindleStop)) {

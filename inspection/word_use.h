@@ -12,6 +12,9 @@
 
 namespace Inspection {
 
+// As the status bar tells.
+bool IsSpindleOn();
+
 // Follows the words of a run from where they are written to who takes them, and knows in the end
 // which ones nobody took.
 class WordUse {

@@ -137,13 +137,18 @@ void Pick(Words words) {
 void Drop(Words file, Qt::DropActions actions, const Tell& tell) {
   QMimeData data;
   data.setUrls({QUrl::fromLocalFile(file)});
+  data.setText(file);
   QDragEnterEvent enter({50, 200}, actions, &data, Qt::LeftButton, {});
   QDragMoveEvent move({50, 200}, actions, &data, Qt::LeftButton, {});
   QDropEvent drop({50, 200}, actions, &data, Qt::LeftButton, {});
   for (QDropEvent* event : std::initializer_list<QDropEvent*>{&enter, &move, &drop}) {
     event->setDropAction(Qt::MoveAction);
     event->ignore();
-    QApplication::sendEvent(FrontWindow(), event);
+    // What the pane under the pointer has no use for goes on to its window.
+    if (auto* editor = qobject_cast<QTextEdit*>(QApplication::focusWidget())) {
+      QApplication::sendEvent(editor->viewport(), event);
+    }
+    if (!event->isAccepted()) QApplication::sendEvent(FrontWindow(), event);
     const bool isCopied = event->dropAction() == Qt::CopyAction;
     tell(!event->isAccepted() ? "refused" : isCopied ? "copied" : "moved");
     if (!event->isAccepted()) return;

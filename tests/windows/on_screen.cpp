@@ -155,9 +155,12 @@ QString FilesSay(const QFileDialog& dialog) {
 // Those of windows depend on their fonts, and so do the heights of labels.
 QString LimitsOf(const QWidget& widget) {
   QSize least = widget.minimumSize();
-  if (IsOneOf<QLabel>(widget)) least.setHeight(0);
   const QSize most = widget.maximumSize();
   QString says;
+  if (IsOneOf<QLabel>(widget) && least.height() > 0) {
+    says += QString(" of %1 lines").arg(least.height() / widget.fontMetrics().lineSpacing());
+    least.setHeight(0);
+  }
   if (!least.isNull()) says += QString(" from %1 %2").arg(least.width()).arg(least.height());
   if (most.width() < QWIDGETSIZE_MAX) says += QString(" to %1 wide").arg(most.width());
   if (most.height() < QWIDGETSIZE_MAX) says += QString(" to %1 high").arg(most.height());
