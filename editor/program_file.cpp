@@ -55,6 +55,12 @@ bool TakeProgram(const std::string& name, std::string_view bytes, std::string& r
   return true;
 }
 
+// What stands in TextBuffer.
+void ShowLoaded() {
+  ColourText();
+  EnableCommands(kLoadedProgramCommands, true);
+}
+
 }  // namespace
 
 bool LoadFile(const std::string& path, std::string& reason) {
@@ -63,14 +69,14 @@ bool LoadFile(const std::string& path, std::string& reason) {
 }
 
 bool LoadProgram(const std::string& path, std::string& reason) {
-  const auto bytes = ReadFile(path, reason);
-  return bytes && ShowProgram(path, *bytes, reason);
+  if (!LoadFile(path, reason)) return false;
+  ShowLoaded();
+  return true;
 }
 
 bool ShowProgram(const std::string& name, std::string_view bytes, std::string& reason) {
   if (!TakeProgram(name, bytes, reason)) return false;
-  ColourText();
-  EnableCommands(kLoadedProgramCommands, true);
+  ShowLoaded();
   return true;
 }
 
