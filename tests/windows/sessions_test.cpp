@@ -259,9 +259,9 @@ class WindowSessions : public testing::TestWithParam<std::string> {
     EXPECT_TRUE(isOpen("New") == isOpen("Options") && isOpen("New") != isOpen("Stop"));
     EXPECT_FALSE(frmMain::TextEditor().Visible && frmMain::DebugWindow.Visible);
     EXPECT_FALSE(frmMain::TextEditor().Locked && !isOpen("Stop"));
-    const QPointer<QWidget> popup = QApplication::activePopupWidget();
-    const QPointer<QWidget> dialog = QApplication::activeModalWidget();
-    const QPointer<QWidget> front = popup ? popup : dialog ? dialog : window_.get();
+    QWidget* up = QApplication::activePopupWidget();
+    if (up == nullptr) up = QApplication::activeModalWidget();
+    const QPointer<QWidget> front = up != nullptr ? up : window_.get();
     if (events_ > 0) {
       --events_;
       monkey_->Act(front.get());
