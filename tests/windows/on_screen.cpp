@@ -120,6 +120,8 @@ QString ItemsOf(const QAbstractItemModel& model, int current) {
 
 QString Formats(const QtRichText& text) {
   QString says = QString(" caret %1 + %2").arg(text.SelStart()).arg(text.SelLength());
+  const int line = text.cursorRect().center().y();
+  if (line < 0 || line > text.viewport()->height()) says += " out of view";
   if (text.textCursor().position() < text.textCursor().anchor()) says += " back";
   QString font;
   for (const auto& [start, format] : text.TextRTF().runs) {
@@ -143,6 +145,9 @@ QString FilesSay(const QFileDialog& dialog) {
                  " name " + dialog.findChild<QLineEdit*>("fileNameEdit")->text() + ", beside";
   for (const QUrl& place : dialog.sidebarUrls()) says += ' ' + place.path();
   const auto* places = dialog.findChild<QListView*>("sidebar");
+  for (const auto& [place, what] : PaintedBy(*places->viewport())) {
+    if (what.startsWith('"')) says += ", " + what.section('"', 1, 1);
+  }
   const auto* files = dialog.findChild<QTreeView*>("treeView");
   bool isCut = places->width() < places->sizeHintForColumn(0) ||
                files->viewport()->width() != files->header()->length();
@@ -193,6 +198,7 @@ QString Says(const QWidget& widget) {
                                "toolButtonStyle",
                                "currentColor",
                                "margin",
+                               "frameShape",
                                "autoFillBackground"}) {
     const QVariant value = widget.property(property);
     const bool isEnum = (value.metaType().flags() & QMetaType::IsEnumeration) != 0;
@@ -216,6 +222,8 @@ QString Says(const QWidget& widget) {
     if (label->textFormat() != Qt::PlainText && Qt::mightBeRichText(label->text())) says += " rich";
     const QSize size = label->pixmap().size();
     if (!size.isEmpty()) says += QString(" picture %1 %2").arg(size.width()).arg(size.height());
+    const QImage image = label->pixmap().toImage();
+    if (label->objectName() == "imgTool") says += image.pixelColor(0, 0).name(QColor::HexArgb);
   }
   if (const auto* box = qobject_cast<const QComboBox*>(&widget)) {
     says += ItemsOf(*box->model(), box->currentIndex());
@@ -270,6 +278,7 @@ QString GridSays(const GridView& grid, const QString& name, std::vector<Shown>& 
         const bool isNumber = part->width() < 50 && what.startsWith('"');
         says += ", " + (isNumber ? what.section(' ', 0, 0) : what);
         if (isNumber && place.right() > part->width()) says += " cut";
+        if (what.startsWith("picture")) says += QString(" at %1").arg(place.x());
       }
       says += part == grid.viewport() ? "" : " |";
     }

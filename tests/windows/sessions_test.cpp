@@ -318,7 +318,9 @@ class WindowSessions : public testing::TestWithParam<std::string> {
       {"left", [this](Words w) { Write("turnbay/1-2.recovery", Recovery(w)); }},
       {"bitmap",
        [this](Words w) {
-         QImage(30, 40, QImage::Format_RGB888).save(folder_.filePath("tools/" + w));
+         QImage image(30, 40, QImage::Format_RGB888);
+         image.fill(Qt::magenta);
+         image.save(folder_.filePath("tools/" + w));
        }},
   };
 
