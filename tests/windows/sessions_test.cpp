@@ -111,7 +111,8 @@ class WindowSessions : public testing::TestWithParam<std::string> {
     if (std::ranges::any_of(QApplication::topLevelWidgets(), fades)) return false;
     const bool isWithin = QApplication::activeModalWidget() != nullptr || IsRunning();
     // A yield of a run handles events several times, and another may follow at once.
-    return calm_ >= (IsRunning() ? 30 : 4) && (depth_ == 0 || isWithin);
+    const bool isCalm = calm_ >= (IsRunning() ? 30 : 4) && (depth_ == 0 || isWithin);
+    return isCalm && (IsPainted() || deadline_.hasExpired());
   }
 
   // With the settings and the files. While a run moves, it is at no place to be told.
@@ -159,17 +160,20 @@ class WindowSessions : public testing::TestWithParam<std::string> {
           });
       if (!isQuiet_ && !isUp(line.name) && !goesAlong) Say(line.name + " is gone");
     }
-    QWidget* front = FrontWindow();
-    EXPECT_TRUE(front == nullptr || IsPainted(*front)) << session_.Place() << " isn't painted";
+    EXPECT_TRUE(IsPainted()) << session_.Place() << " isn't painted";
     if (isBegun_) session_.Hold(said_);
     isBegun_ = true;
     isQuiet_ = false;
     said_.clear();
     told_ = now_;
   }
-  // Whether it shows what it would paint now, but for the rest of a line. A tool button that is
-  // clicked by a test keeps its look while it acts, and a gauge waits for a whole step.
-  static bool IsPainted(QWidget& window) {
+  // Whether the window in front shows what it would paint now, but for the rest of a line. A tool
+  // button that is clicked by a test keeps its look while it acts, and a gauge waits for a whole
+  // step.
+  static bool IsPainted() {
+    QWidget* front = FrontWindow();
+    if (front == nullptr) return true;
+    QWidget& window = *front;
     const auto rgb = [&](const QPixmap& picture) {
       QImage image = picture.toImage().convertToFormat(QImage::Format_RGB32);
       QPainter painter(&image);
