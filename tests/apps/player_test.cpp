@@ -17,14 +17,13 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// Whether an area below the legend has the colour.
-bool Shows(const QImage& picture, QRgb colour) {
-  constexpr int kLeast = 8'000;
+// How much of the colour lies below the legend: nothing, or the area in units of 4,000 pixels.
+QString AreaOf(QRgb colour, const char* name, const QImage& picture) {
   int count = 0;
   for (int y = 130; y < picture.height(); ++y) {
     for (int x = 0; x < picture.width(); ++x) count += picture.pixel(x, y) == colour ? 1 : 0;
   }
-  return count > kLeast;
+  return count == 0 ? QString() : QString(", %1: %2").arg(name).arg(count / 4'000);
 }
 
 class PlayerTest : public TemporaryFolderTest, public testing::WithParamInterface<std::string> {
@@ -106,8 +105,8 @@ class PlayerTest : public TemporaryFolderTest, public testing::WithParamInterfac
     QString text = QString::fromLatin1(bytes).replace("\r\n", "\\r\n");
     if (!picture.isNull()) {
       text = QString("%1x%2").arg(picture.width()).arg(picture.height());
-      if (Shows(picture, qRgb(240, 160, 0))) text += ", something is left standing";
-      if (Shows(picture, qRgb(0, 90, 170))) text += ", something is cut away";
+      text += AreaOf(qRgb(240, 160, 0), "left standing", picture) +
+              AreaOf(qRgb(0, 90, 170), "cut away", picture);
     } else if (bytes.starts_with("solid") || name.ends_with(".stl")) {
       text = QString("%1 bytes").arg(bytes.size());
     }
