@@ -2,6 +2,8 @@
 add_library(turnbay_options INTERFACE)
 target_include_directories(turnbay_options INTERFACE ${PROJECT_SOURCE_DIR})
 target_compile_options(turnbay_options INTERFACE -Wall -Wextra -Wconversion -Wshadow)
+# An index out of range ends the program, but not that of users.
+target_compile_definitions(turnbay_options INTERFACE $<$<NOT:$<CONFIG:Release>>:_GLIBCXX_ASSERTIONS>)
 if(TURNBAY_WARNINGS_AS_ERRORS)
   target_compile_options(turnbay_options INTERFACE -Werror)
 endif()

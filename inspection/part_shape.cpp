@@ -42,7 +42,7 @@ bool IsCone(const Profile& profile, std::size_t left) {
 
 Frustum PieceAt(const Profile& profile, int column) {
   const auto i = static_cast<std::size_t>(column);
-  if (i >= profile.size()) return {column - 1, column, 0, 0};
+  if (i >= profile.size()) return {};
   const int radius = profile[i].Radius;
   return {column - 1, column, IsCone(profile, i) ? profile[i - 1].Radius : radius, radius};
 }

@@ -6,9 +6,7 @@ constexpr Colour kRed = Rgb(255, 0, 0);
 
 TEST_P(RichTextContract, EveryByteSurvives) {
   std::string text = "\r\nX1\r\n\r\n";
-  for (int byte = 0; byte < 256; ++byte) {
-    if (byte != '\r' && byte != '\n') text += static_cast<char>(byte);
-  }
+  for (int byte = 0; byte < 256; ++byte) text += static_cast<char>(byte);
   control.SetText(text);
   EXPECT_EQ(text, control.Text());
   Select(control, 128, 16);

@@ -175,37 +175,20 @@ QString LimitsOf(const QWidget& widget) {
 // What the user reads or hears of it.
 QString Says(const QWidget& widget) {
   QString says = widget.metaObject()->className();
-  for (const char* property : {"windowTitle",
-                               "source",
-                               "text",
-                               "title",
-                               "plainText",
-                               "currentText",
-                               "accessibleName",
-                               "accessibleDescription",
-                               "toolTip",
-                               "placeholderText",
-                               "selectedText",
-                               "cursorPosition",
-                               "checked",
-                               "default",
-                               "modal",
-                               "readOnly",
-                               "icon",
-                               "minimum",
-                               "maximum",
-                               "value",
-                               "toolButtonStyle",
-                               "currentColor",
-                               "margin",
-                               "frameShape",
-                               "autoFillBackground"}) {
-    const QVariant value = widget.property(property);
+  static const QStringList kProperties =
+      QString(
+          "windowTitle source text title plainText currentText accessibleName "
+          "accessibleDescription "
+          "toolTip placeholderText selectedText cursorPosition checked default modal readOnly icon "
+          "minimum maximum value toolButtonStyle currentColor margin frameShape autoFillBackground")
+          .split(' ');
+  for (const QString& property : kProperties) {
+    const QVariant value = widget.property(property.toLatin1());
     const bool isEnum = (value.metaType().flags() & QMetaType::IsEnumeration) != 0;
     QString text = isEnum ? QString::number(value.toInt()) : value.toString();
     // The height of a font decides which pixel it is.
     if (widget.objectName() == "lblMeasure") text.replace(QRegularExpression("[0-9.]+"), "1");
-    const bool isPage = IsOneOf<QTextBrowser>(widget) && qstrcmp(property, "plainText") == 0;
+    const bool isPage = IsOneOf<QTextBrowser>(widget) && property == "plainText";
     if (text.isEmpty() || text == "0" || text == "false" || isPage) continue;
     says += QString(" %1=").arg(property) + Quoted(text);
   }

@@ -134,8 +134,9 @@ class WindowSessions : public testing::TestWithParam<std::string> {
     for (QDirIterator files(folder_.path(), {"*.cnc", "Tool*.ini"}, QDir::Files,
                             QDirIterator::Subdirectories);
          files.hasNext();) {
-      const QString text = QString::fromLatin1(Bytes(files.next()));
-      now.push_back({"file " + files.fileName(), Quoted(QString(text).remove('\r'))});
+      QString text = QString::fromLatin1(Bytes(files.next()));
+      text.replace("\r\n", " / ").replace('\r', "\\r").replace('\n', "\\n");
+      now.push_back({"file " + files.fileName(), Quoted(text)});
     }
     return now;
   }
@@ -222,7 +223,11 @@ class WindowSessions : public testing::TestWithParam<std::string> {
   void Act(const QString& row) {
     const QString name = row.section(' ', 0, 0);
     QString words = row.section(' ', 1);
-    words.replace(" / ", "\r\n").replace("\\s", " ").replace("~", folder_.path());
+    words.replace(" / ", "\r\n")
+        .replace("\\s", " ")
+        .replace("\\n", "\n")
+        .replace("\\r", "\r")
+        .replace("~", folder_.path());
     if (const auto verb = verbs_.find(name); verb != verbs_.end()) return (*verb)(words);
     const auto hand = Hands().find(name);
     ASSERT_NE(Hands().end(), hand) << session_.Place();
