@@ -81,7 +81,7 @@ class LayoutDialog : public QDialog {
     if (from < 0 || to < 0 || to >= actions.size()) return;
     QAction* moved = actions.at(from);
     const qsizetype next = distance > 0 ? to + 1 : to;
-    bar_.insertAction(next < actions.size() ? actions.at(next) : nullptr, moved);
+    bar_.insertAction(actions.value(next), moved);
     Fill(to);
   }
 

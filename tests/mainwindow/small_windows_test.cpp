@@ -1,3 +1,4 @@
+#include <QAbstractButton>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDialog>
@@ -7,10 +8,12 @@
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QRegularExpression>
+#include <QSpinBox>
 #include <QTemporaryDir>
 #include <QTemporaryFile>
 #include <QTest>
 #include <csignal>
+#include <functional>
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 
@@ -178,6 +181,32 @@ std::string Drawn(const QByteArray& file) {
   return drawn.toStdString() + '\n';
 }
 
+// What is told when the dialog is left with this file and these choices.
+QString PrintByDialog(const QString& path, const std::function<void(QPrintDialog&)>& choose) {
+  QString told;
+  QTimer user;
+  user.callOnTimeout([&] {
+    if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+      told = box->text();
+      box->accept();
+    }
+    auto* dialog = qobject_cast<QPrintDialog*>(QApplication::activeModalWidget());
+    if (dialog == nullptr) return;
+    dialog->findChild<QLineEdit*>("filename")->setText(path);
+    choose(*dialog);
+    dialog->accept();
+  });
+  user.start(0);
+  frmMain::mnuFilePrint_Click();
+  return told;
+}
+
+QByteArray BytesOf(const QString& path) {
+  QFile file(path);
+  EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+  return file.readAll();
+}
+
 TEST(SmallWindowsTest, PrintsToTheFileOfItsDialogOrLeavesItAndTellsWhy) {
   const QTemporaryDir folder;
   const QString path = folder.filePath("a.pdf");
@@ -195,49 +224,38 @@ TEST(SmallWindowsTest, PrintsToTheFileOfItsDialogOrLeavesItAndTellsWhy) {
   signal(SIGXFSZ, SIG_IGN);
   for (const bool hasRoom : {true, false}) {
     const rlimit full{1'000, free.rlim_max};
-    QString told;
-    QTimer user;
-    user.callOnTimeout([&] {
-      if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
-        told = box->text();
-        box->accept();
-      }
-      auto* dialog = qobject_cast<QPrintDialog*>(QApplication::activeModalWidget());
-      if (dialog == nullptr) return;
-      dialog->findChild<QLineEdit*>("filename")->setText(path);
+    const QString told = PrintByDialog(path, [&](QPrintDialog&) {
       if (!hasRoom) setrlimit(RLIMIT_FSIZE, &full);
-      dialog->accept();
     });
-    user.start(0);
-    frmMain::mnuFilePrint_Click();
     setrlimit(RLIMIT_FSIZE, &free);
     EXPECT_EQ(hasRoom ? "" : "The file \"" + path + "\" can't be written: File too large.", told);
-    QFile file(path);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-    const QByteArray pages = file.readAll();
-    ExpectGolden("listing", Drawn(pages));
-    EXPECT_TRUE(pages.contains(QByteArray("/Title (\xFE\xFF\0T\0i\0t\0l\0e)", 20)));
+    ExpectGolden("listing", Drawn(BytesOf(path)));
+    EXPECT_TRUE(BytesOf(path).contains(QByteArray("/Title (\xFE\xFF\0T\0i\0t\0l\0e)", 20)));
   }
   qunsetenv("TMPDIR");
 }
 
-QByteArray Printed(const std::string& text, int from, int to) {
-  QTemporaryFile file("XXXXXX.pdf");
-  QPrinter printer(QPrinter::HighResolution);
-  printer.setOutputFileName(file.open() ? file.fileName() : "");
-  printer.setFromTo(from, to);
-  EXPECT_TRUE(PrintListing({"A", {text, {{}}}, {"Courier", 10}}, printer));
-  return file.readAll();
-}
-
 TEST(SmallWindowsTest, LongLinesGoOnAndOnlyThePagesAskedForAreMade) {
-  EXPECT_EQ(2, Printed(std::string(20'000, 'X'), 2, 3).count("/Type /Page\n"));
+  const QTemporaryDir folder;
+  frmMain::ResetToProgramStart();
+  frmMain::TextEditor().SetText(std::string(20'000, 'X'));
+  PrintByDialog(folder.filePath("a.pdf"), [](QPrintDialog& dialog) {
+    dialog.findChild<QAbstractButton*>("printRange")->click();
+    dialog.findChild<QSpinBox*>("from")->setValue(2);
+    dialog.findChild<QSpinBox*>("to")->setValue(3);
+  });
+  EXPECT_EQ(2, BytesOf(folder.filePath("a.pdf")).count("/Type /Page\n"));
+  frmMain::ResetToProgramStart();
 }
 
 TEST(SmallWindowsTest, TabsPrintEightCharactersApart) {
   // Where the last character stands, in pixels of the printer.
   const auto lastPlace = [](const std::string& text) {
-    const QByteArray file = Printed(text, 0, 0);
+    QTemporaryFile pages("XXXXXX.pdf");
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setOutputFileName(pages.open() ? pages.fileName() : "");
+    EXPECT_TRUE(PrintListing({"A", {text, {{}}}, {"Courier", 10}}, printer));
+    const QByteArray file = pages.readAll();
     const qsizetype at = file.indexOf("\nstream\n") + 8;
     const QString drawn = qUncompress(QByteArray(4, '\0') + file.mid(at));
     static const QRegularExpression move("([\\d.]+) \\S+ Td");

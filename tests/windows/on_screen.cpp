@@ -63,6 +63,9 @@ QString Place(const QWidget& widget, const QWidgetList& neighbours) {
     const QPoint off = at.center() - outer.rect().center();
     return off.manhattanLength() <= 2 ? " in the middle" : "";
   }
+  if (outer.layout() == nullptr && outer.windowFlags().testFlag(Qt::FramelessWindowHint)) {
+    return QString(" at %1 %2, %3 wide").arg(at.x()).arg(at.y()).arg(at.width());
+  }
   QList<QRect> all;
   int gap = IsOneOf<QGroupBox>(outer) ? 0 : at.top();
   for (const QWidget* each : neighbours) {
@@ -229,6 +232,13 @@ QString Says(const QWidget& widget) {
     const QString before = pages->toPlainText().left(pages->textCursor().selectionStart());
     const auto count = found.isEmpty() ? 0 : before.count(found, Qt::CaseInsensitive);
     says += QString(" found %1 after %2").arg(Quoted(found)).arg(count);
+    QStringList colours;
+    for (const auto& format : pages->document()->allFormats()) {
+      if (format.hasProperty(QTextFormat::ForegroundBrush))
+        colours += format.foreground().color().name();
+    }
+    colours.removeDuplicates();
+    says += " in " + colours.join(' ');
   }
   if (const auto* dialog = qobject_cast<const QFileDialog*>(&widget)) says += FilesSay(*dialog);
   if (const auto* text = dynamic_cast<const QtRichText*>(&widget)) {

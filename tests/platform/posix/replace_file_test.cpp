@@ -130,7 +130,7 @@ class ReplaceFileTest : public TemporaryFolderTest,
     if (exists) {
       const std::string old = Put("part.cnc", kOld);
       fs::permissions(old, fs::perms(0640));
-      EXPECT_EQ(0, chown(old.c_str(), kOwner, kOwner));
+      EXPECT_EQ(0, chown(old.c_str(), kOwner, kGroup));
       hasAttributes = setxattr(old.c_str(), kNote, "1 \xFF", 3, 0) == 0 &&
                       setxattr(old.c_str(), kAccessList, kAccess.data(), kAccess.size(), 0) == 0;
     }
@@ -153,7 +153,7 @@ class ReplaceFileTest : public TemporaryFolderTest,
     if (!exists) return;
     struct stat status {};
     EXPECT_EQ(0, stat(Path("part.cnc").c_str(), &status));
-    EXPECT_EQ(std::tuple(kOwner, kOwner, 0640U, names),
+    EXPECT_EQ(std::tuple(kOwner, kGroup, 0640U, names),
               std::tuple(status.st_uid, status.st_gid, status.st_mode & 07777U,
                          static_cast<int>(status.st_nlink)));
     if (!hasAttributes) return;
@@ -183,8 +183,9 @@ class ReplaceFileTest : public TemporaryFolderTest,
   const int names = std::get<0>(GetParam());
   const bool exists = names > 0;
   const bool linked = std::get<1>(GetParam());
-  // Somebody else for root.
-  const unsigned kOwner = geteuid() == 0 ? 12 : geteuid();
+  // For root somebody else, or another group alone.
+  const unsigned kOwner = geteuid() == 0 && linked ? 12 : geteuid();
+  const unsigned kGroup = geteuid() == 0 ? 12 : getegid();
   bool hasAttributes = false;
   std::string reason;
 };

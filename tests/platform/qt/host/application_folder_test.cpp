@@ -55,6 +55,10 @@ TEST_F(ApplicationFolderTest, TellsThatItCannotBeFilled) {
   Put("file", "");
   EXPECT_FALSE(Fill("file/turnbay"));
   EXPECT_EQ("", Bytes("file"));
+  // Takes no files.
+  fs::create_directories(folder / "home");
+  fs::create_directory_symlink("/proc/self", folder / "home/tools");
+  EXPECT_FALSE(Fill("home"));
 }
 
 }  // namespace
