@@ -256,8 +256,9 @@ const Verb kVerbs[] = {
      [](const Words& w) {
        const auto text = [&](std::size_t i) { return w[i] == "-" ? "" : Unquoted(w[i]); };
        world.endedRecoveryFiles.push_back(
-           w[0] == "damaged" ? w[0] : EncodeRecovery({text(0), w[1] == "utf-8", text(3), text(2)}));
+           EncodeRecovery({text(0), w[1] == "utf-8", text(3), text(2)}));
      }},
+    {"left as", 1, [](const Words& w) { world.endedRecoveryFiles.push_back(Unquoted(w[0])); }},
     {"offer", 0, [](const Words&) { OfferRecovery(); }},
     {"empty store", 0, [](const Words&) { world.settings.clear(); }},
     {"store", 2, [](const Words& w) { SetOption(w[0], Unquoted(w[1])); }},

@@ -1,6 +1,7 @@
 // The transcripts in tests/data/player: files, and commands of turnbay-play that are given in
 // their folder; below each what it says and writes, and how it ends.
 
+#include <QColor>
 #include <QImage>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -9,6 +10,7 @@
 #include <map>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <utility>
 
 #include "tests/platform/qt/temporary_folder.h"
 #include "tests/session_file.h"
@@ -24,6 +26,18 @@ QString AreaOf(QRgb colour, const char* name, const QImage& picture) {
     for (int x = 0; x < picture.width(); ++x) count += picture.pixel(x, y) == colour ? 1 : 0;
   }
   return count == 0 ? QString() : QString(", %1: %2").arg(name).arg(count / 4'000);
+}
+
+// In the order in which they come from the top.
+QStringList ColoursOf(const QImage& picture) {
+  QStringList colours;
+  QRgb last = 0;
+  for (int i = 0; i < picture.width() * picture.height(); ++i) {
+    const QRgb colour = picture.pixel(i % picture.width(), i / picture.width());
+    if (std::exchange(last, colour) != colour) colours += QColor(colour).name();
+  }
+  colours.removeDuplicates();
+  return colours;
 }
 
 class PlayerTest : public TemporaryFolderTest, public testing::WithParamInterface<std::string> {
@@ -107,6 +121,8 @@ class PlayerTest : public TemporaryFolderTest, public testing::WithParamInterfac
       text = QString("%1x%2").arg(picture.width()).arg(picture.height());
       text += AreaOf(qRgb(240, 160, 0), "left standing", picture) +
               AreaOf(qRgb(0, 90, 170), "cut away", picture);
+      const QString colours = ColoursOf(picture).join(' ');
+      if (colours.size() < 60) text += ", " + colours;
     } else if (bytes.starts_with("solid") || name.ends_with(".stl")) {
       text = QString("%1 bytes").arg(bytes.size());
     }

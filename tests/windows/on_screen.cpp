@@ -182,7 +182,8 @@ QString Says(const QWidget& widget) {
       QString(
           "windowTitle source text title plainText currentText accessibleName "
           "accessibleDescription "
-          "toolTip placeholderText selectedText cursorPosition checked default modal readOnly icon "
+          "toolTip openExternalLinks placeholderText selectedText cursorPosition checked default "
+          "modal readOnly icon "
           "minimum maximum value toolButtonStyle currentColor margin frameShape autoFillBackground")
           .split(' ');
   for (const QString& property : kProperties) {

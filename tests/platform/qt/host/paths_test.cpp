@@ -1,5 +1,4 @@
-#include <gmock/gmock.h>
-#include <sys/stat.h>
+#include <gtest/gtest.h>
 
 #include "platform/host/files.h"
 #include "tests/platform/qt/temporary_folder.h"
@@ -37,30 +36,6 @@ TEST_F(PathsTest, ABackslashDividesFoldersInPathsOfAssetsAlone) {
   EXPECT_EQ("x", Bytes("TOOLS\\t.bmp"));
   EXPECT_EQ("", Bytes("Tools/T.bmp"));
   for (const char* name : {"tools\\T.bmp", "part.cnc"}) EXPECT_FALSE(ReadFile(Path(name), reason));
-}
-
-TEST_F(PathsTest, ReadsAllBytesOrSaysWhyNot) {
-  const std::string bytes("\0\xFF\r\n", 4);
-  std::string reason;
-  EXPECT_EQ(bytes, ReadFile(Put("file", bytes), reason));
-  EXPECT_FALSE(ReadFile(Path("gone.cnc"), reason));
-  EXPECT_EQ("The file \"" + Path("gone.cnc") + "\" can't be read: No such file or directory.",
-            reason);
-  EXPECT_FALSE(ReadFile(folder, reason));
-  EXPECT_THAT(reason, testing::HasSubstr("\" can't be read: it is a folder."));
-  EXPECT_FALSE(ReadFile("/proc/self/mem", reason));
-  EXPECT_THAT(reason, testing::HasSubstr("can't be read: Input/output error."));
-  std::ofstream(folder / "large").seekp(kMaxFileSize) << 'x';
-  EXPECT_FALSE(ReadFile(Path("large"), reason));
-  EXPECT_THAT(reason,
-              testing::HasSubstr("large\" can't be read: it has more than 67108864 bytes."));
-  // A device without an end, behind a link, and a pipe that nobody writes.
-  std::filesystem::create_symlink("/dev/zero", Path("endless"));
-  mkfifo(Path("pipe").c_str(), 0600);
-  for (const char* name : {"endless", "pipe"}) {
-    EXPECT_FALSE(ReadFile(Path(name), reason));
-    EXPECT_THAT(reason, testing::HasSubstr("\" can't be read: it is no ordinary file."));
-  }
 }
 
 }  // namespace
