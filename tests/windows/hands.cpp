@@ -85,7 +85,8 @@ void Key(QKeyCombination key, const Tell& tell, const QString& text = {}) {
 }
 
 void KeyPart(QTest::KeyAction action, Words key) {
-  QTest::sendKeyEvent(action, FrontWindow()->windowHandle(), QKeySequence(key)[0].key(), "", {});
+  QTest::sendKeyEvent(action, FrontWindow()->windowHandle(), QKeySequence(key)[0].key(),
+                      key.size() == 1 ? key : "", {});
 }
 
 void Type(Words text, const Tell& tell) {

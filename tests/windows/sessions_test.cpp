@@ -223,11 +223,7 @@ class WindowSessions : public testing::TestWithParam<std::string> {
   void Act(const QString& row) {
     const QString name = row.section(' ', 0, 0);
     QString words = row.section(' ', 1);
-    words.replace(" / ", "\r\n")
-        .replace("\\s", " ")
-        .replace("\\n", "\n")
-        .replace("\\r", "\r")
-        .replace("~", folder_.path());
+    words.replace(" / ", "\r\n").replace("\\s", " ").replace("~", folder_.path());
     if (const auto verb = verbs_.find(name); verb != verbs_.end()) return (*verb)(words);
     const auto hand = Hands().find(name);
     ASSERT_NE(Hands().end(), hand) << session_.Place();
@@ -323,7 +319,11 @@ class WindowSessions : public testing::TestWithParam<std::string> {
       // Settings and files as they are found.
       {"store", [](Words w) { Store(w); }},
       {"recent", [this](Words w) { Store("RecentFilePaths/0 " + folder_.filePath(w)); }},
-      {"file", [this](Words w) { Write(w.section(' ', 0, 0), w.section(' ', 1).toLatin1()); }},
+      {"file",
+       [this](Words w) {
+         const std::string bytes = Unquoted(w.section(' ', 1).toStdString());
+         Write(w.section(' ', 0, 0), QByteArray::fromStdString(bytes));
+       }},
       {"left", [this](Words w) { Write("turnbay/1-2.recovery", Recovery(w)); }},
       {"bitmap",
        [this](Words w) {
