@@ -119,12 +119,18 @@ TEST(SmallWindowsTest, AMessageBoxOutlivesTheNotificationThatIsActive) {
   EXPECT_TRUE(isUp);
 }
 
-TEST(SmallWindowsTest, TheProgramEndsBehindAModalNotification) {
+TEST(SmallWindowsTest, TheProgramEndsBehindAModalNotificationWithoutAskingAWindow) {
+  class Stubborn : public QWidget {
+    void closeEvent(QCloseEvent* event) override { event->ignore(); }
+  };
+  Stubborn window;
+  window.show();
   QTimer user;
   user.callOnTimeout([&] {
     if (Up("frmInfo") == nullptr) return;
     user.stop();
     frmMain::Form_Unload();
+    Desktop::EndProgram();
   });
   user.start(0);
   QMetaObject::invokeMethod(
@@ -132,19 +138,6 @@ TEST(SmallWindowsTest, TheProgramEndsBehindAModalNotification) {
   EXPECT_EQ(0, QApplication::exec());
   EXPECT_EQ(nullptr, Up("frmInfo"));
   frmMain::ResetToProgramStart();
-}
-
-TEST(SmallWindowsTest, TheProgramEndsWithoutAskingAWindow) {
-  class Stubborn : public QWidget {
-    void closeEvent(QCloseEvent* event) override { event->ignore(); }
-  };
-  Stubborn window;
-  window.show();
-  QTimer::singleShot(0, qApp, [] {
-    Desktop::EndProgram();
-    Desktop::EndProgram();
-  });
-  EXPECT_EQ(0, QApplication::exec());
 }
 
 TEST(SmallWindowsTest, WithoutAFileForTheViewerTheManualOpensInTheMiddle) {
