@@ -77,6 +77,7 @@ void EditInto(RichText& editor, std::string_view text) {
   // A line end stays whole.
   if (front > 0 && former[front - 1] == '\r') --front;
   std::size_t back = common(former.rbegin(), text.rbegin(), shorter - front);
+  // Behind the last character stands a 0.
   if (former[former.size() - back] == '\n') --back;
   Select(editor, front, former.size() - back);
   editor.SetSelText(text.substr(front, text.size() - back - front));

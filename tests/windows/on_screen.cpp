@@ -178,14 +178,12 @@ QString LimitsOf(const QWidget& widget) {
 // What the user reads or hears of it.
 QString Says(const QWidget& widget) {
   QString says = widget.metaObject()->className();
-  static const QStringList kProperties =
-      QString(
-          "windowTitle source text title plainText currentText accessibleName "
-          "accessibleDescription "
-          "toolTip openExternalLinks placeholderText selectedText cursorPosition checked default "
-          "modal readOnly icon "
-          "minimum maximum value toolButtonStyle currentColor margin frameShape autoFillBackground")
-          .split(' ');
+  constexpr const char* kNames =
+      "windowTitle source text title plainText currentText accessibleName accessibleDescription "
+      "toolTip openExternalLinks placeholderText selectedText cursorPosition checked default modal "
+      "readOnly icon minimum maximum value toolButtonStyle currentColor margin frameShape "
+      "autoFillBackground";
+  static const QStringList kProperties = QString(kNames).split(' ');
   for (const QString& property : kProperties) {
     const QVariant value = widget.property(property.toLatin1());
     const bool isEnum = (value.metaType().flags() & QMetaType::IsEnumeration) != 0;
