@@ -398,6 +398,8 @@ std::vector<Shown> OnScreen() {
                   .arg(at.width())
                   .arg(at.height());
       says += QString(", opaque %1").arg(qRound(255 * window->windowOpacity())) + PaintsOf(*window);
+      for (const auto* timer : window->findChildren<QTimer*>())
+        says += QString(", %1 %2").arg(timer->objectName()).arg(timer->interval());
     }
     shown.push_back({NameOf(*window), says});
     AddChildren(*window, NameOf(*window), shown);
