@@ -73,12 +73,8 @@ void EditInto(RichText& editor, std::string_view text) {
     const auto end = from + static_cast<std::ptrdiff_t>(most);
     return static_cast<std::size_t>(std::mismatch(from, end, other).first - from);
   };
-  std::size_t front = common(former.begin(), text.begin(), shorter);
-  // A line end stays whole.
-  if (front > 0 && former[front - 1] == '\r') --front;
-  std::size_t back = common(former.rbegin(), text.rbegin(), shorter - front);
-  // Behind the last character stands a 0.
-  if (former[former.size() - back] == '\n') --back;
+  const std::size_t front = common(former.begin(), text.begin(), shorter);
+  const std::size_t back = common(former.rbegin(), text.rbegin(), shorter - front);
   Select(editor, front, former.size() - back);
   editor.SetSelText(text.substr(front, text.size() - back - front));
 }

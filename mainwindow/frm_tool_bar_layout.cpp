@@ -67,7 +67,6 @@ class LayoutDialog : public QDialog {
     for (const QAction* action : bar_.actions()) {
       auto* item = new QListWidgetItem(action->icon(),
                                        action->isSeparator() ? "Separator" : action->toolTip());
-      item->setFlags(item->flags() | Qt::ItemIsUserCheckable);
       item->setCheckState(action->isVisible() ? Qt::Checked : Qt::Unchecked);
       list_->addItem(item);
     }

@@ -124,7 +124,7 @@ class PlayerTest : public TemporaryFolderTest, public testing::WithParamInterfac
       const QString colours = ColoursOf(picture).join(' ');
       if (colours.size() < 60) text += ", " + colours;
     } else if (bytes.starts_with("solid") || name.ends_with(".stl")) {
-      text = QString("%1 bytes").arg(bytes.size());
+      text = QString("%1 bytes of %2").arg(bytes.size()).arg(bytes.c_str());
     }
     seen_.push_back("writes " + name);
     for (const QString& line : text.split('\n'))

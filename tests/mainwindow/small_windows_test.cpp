@@ -82,7 +82,7 @@ TEST(SmallWindowsTest, AModalNotificationTakesTheWindowOverForItsOwnTime) {
   user.callOnTimeout([&] {
     FadingWindow* info = Fading("frmInfo");
     if (info == nullptr || info->Timer1.isActive() || time != 0) return;
-    EXPECT_TRUE(info->isModal());
+    EXPECT_TRUE(info->isModal() && !info->windowFlags().testFlag(Qt::WindowDoesNotAcceptFocus));
     EXPECT_EQ("Chuck OPEN", info->findChild<QWidget*>("lblInfo")->property("text").toString());
     time = EndTime(*info);
   });

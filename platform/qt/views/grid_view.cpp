@@ -93,7 +93,6 @@ class LineNumbers : public QHeaderView {
  public:
   LineNumbers(const GridTable& table, GridView* parent)
       : QHeaderView(Qt::Vertical, parent), table_(table), grid_(*parent) {
-    setSectionsClickable(true);
     setSectionResizeMode(QHeaderView::Fixed);
     setMinimumSectionSize(1);
   }
@@ -162,7 +161,6 @@ GridView::GridView(GridTable& table, const QString& pictureFolder, QWidget* pare
   setItemDelegate(new CellPainter(table_, pictureFolder, this));
   setFrameShape(QFrame::NoFrame);
   setShowGrid(false);
-  setWordWrap(false);
   setSelectionMode(QAbstractItemView::NoSelection);
   setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
   setTabKeyNavigation(false);
