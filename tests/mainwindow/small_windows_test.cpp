@@ -233,7 +233,9 @@ TEST(SmallWindowsTest, LongLinesGoOnAndOnlyThePagesAskedForAreMade) {
     dialog.findChild<QSpinBox*>("from")->setValue(2);
     dialog.findChild<QSpinBox*>("to")->setValue(3);
   });
-  EXPECT_EQ(2, BytesOf(folder.filePath("a.pdf")).count("/Type /Page\n"));
+  const QByteArray pages = BytesOf(folder.filePath("a.pdf"));
+  EXPECT_EQ(2, pages.count("/Type /Page\n"));
+  EXPECT_EQ(2, QByteArray::fromStdString(Drawn(pages)).count("page"));
   frmMain::ResetToProgramStart();
 }
 
