@@ -1,5 +1,4 @@
 """Every control is found by role and name, and the focus is seen wherever it goes."""
-import unittest
 
 from journey import TITLE, Journey, has, place, wait_for
 
@@ -50,7 +49,3 @@ class AccessJourney(Journey):
             self.assertGreaterEqual(len(self.assert_focus_is_seen(dialog, stops)), 3)
             self.desktop.key("Escape")
             self.program.window(TITLE)
-
-
-if __name__ == "__main__":
-    unittest.main()

@@ -1,5 +1,4 @@
 """A document: saved, closed with each answer to the save question, and there at the next start."""
-import unittest
 
 from journey import TITLE, Journey, wait_for
 
@@ -39,7 +38,3 @@ class DocumentJourney(Journey):
         self.close_and_answer("part.cnc", "alt+y")
         self.assertEqual(0, self.program.wait_for_end())
         self.assertEqual(b"[BILLET X20 Z40\r\nG00 X18 Z3", part.read_bytes())
-
-
-if __name__ == "__main__":
-    unittest.main()

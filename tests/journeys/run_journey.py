@@ -1,7 +1,6 @@
 """Runs: a first program typed, paused, stopped and played to its end; a break point and a row
 edited in a pause; a slip found and mended."""
 import subprocess
-import unittest
 
 from PIL import Image
 
@@ -98,7 +97,3 @@ class RunJourney(Journey):
         self.wait_for_panel("Tool Position", "X 30.0  Z -5.5")
         self.wait_until_open("Start", "Step")
         self.assert_shows_the_run_of("[BILLET X20 Z40", "G00 X18 Z1", "G01 Z-5.5", "G00 X30")
-
-
-if __name__ == "__main__":
-    unittest.main()

@@ -1,5 +1,4 @@
 """What the windows look like at rest: splash, About, notifications, 3D; scaled and dark."""
-import unittest
 
 from PIL import Image
 
@@ -122,7 +121,3 @@ class WindowsJourney(Journey):
                 self.program.window(TITLE)
                 keep_screen(f"size{size[0]}")
                 self.program.kill()
-
-
-if __name__ == "__main__":
-    unittest.main()

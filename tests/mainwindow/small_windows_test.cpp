@@ -28,6 +28,7 @@
 #include "mainwindow/print_listing.h"
 #include "mainwindow/program_start.h"
 #include "platform/host/desktop.h"
+#include "platform/qt/host/late_library.h"
 #include "settings/settings.h"
 #include "tests/golden.h"
 
@@ -151,6 +152,13 @@ TEST(SmallWindowsTest, WithoutAFileForTheViewerTheManualOpensInTheMiddle) {
   ASSERT_NE(nullptr, help);
   EXPECT_EQ(help->screen()->availableGeometry().center() - help->rect().center(), help->pos());
   help->close();
+}
+
+TEST(SmallWindowsTest, APartThatIsGoneIsTold) {
+  std::string reason;
+  EXPECT_EQ(nullptr, LateRoutine("turnbay_gone", "PrintProgram", reason));
+  EXPECT_TRUE(reason.starts_with("A part of Turnbay can't be loaded: ")) << reason;
+  EXPECT_TRUE(reason.ends_with(". Install Turnbay again.")) << reason;
 }
 
 // What the pages of a file show, in order: of each stretch of text its colour, its size and its

@@ -181,7 +181,7 @@ QString Says(const QWidget& widget) {
   constexpr const char* kNames =
       "windowTitle source text title plainText currentText accessibleName accessibleDescription "
       "toolTip openExternalLinks placeholderText selectedText cursorPosition checked default modal "
-      "readOnly icon minimum maximum value toolButtonStyle currentColor margin frameShape "
+      "readOnly icon wordWrap minimum maximum value toolButtonStyle currentColor margin frameShape "
       "autoFillBackground";
   static const QStringList kProperties = QString(kNames).split(' ');
   for (const QString& property : kProperties) {
@@ -190,7 +190,9 @@ QString Says(const QWidget& widget) {
     QString text = isEnum ? QString::number(value.toInt()) : value.toString();
     // The height of a font decides which pixel it is.
     if (widget.objectName() == "lblMeasure") text.replace(QRegularExpression("[0-9.]+"), "1");
-    const bool isPage = IsOneOf<QTextBrowser>(widget) && property == "plainText";
+    // A page is told by its place, and a view paints its items itself.
+    const bool isPage = IsOneOf<QTextBrowser, QAbstractItemView>(widget) &&
+                        (property == "plainText" || property == "wordWrap");
     if (text.isEmpty() || text == "0" || text == "false" || isPage) continue;
     says += QString(" %1=").arg(property) + Quoted(text);
   }
