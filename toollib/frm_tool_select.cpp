@@ -111,9 +111,7 @@ class ToolPicture : public QFrame {
     setFrameShape(QFrame::StyledPanel);
     setAutoFillBackground(true);
     QPalette colours = palette();
-    const Colour back = GlobalVariables::Settings.SimBackColor;
-    colours.setColor(QPalette::Window, ToQColor(back));
-    colours.setColor(QPalette::WindowText, TextColourOn(back));
+    colours.setColor(QPalette::Window, ToQColor(GlobalVariables::Settings.SimBackColor));
     setPalette(colours);
   }
 
