@@ -181,8 +181,9 @@ QString Says(const QWidget& widget) {
   constexpr const char* kNames =
       "windowTitle source text title plainText currentText accessibleName accessibleDescription "
       "toolTip openExternalLinks placeholderText selectedText cursorPosition checked default modal "
-      "readOnly icon wordWrap minimum maximum value toolButtonStyle currentColor margin frameShape "
-      "autoFillBackground";
+      "readOnly icon wordWrap textVisible minimum maximum value toolButtonStyle currentColor "
+      "margin "
+      "frameShape autoFillBackground";
   static const QStringList kProperties = QString(kNames).split(' ');
   for (const QString& property : kProperties) {
     const QVariant value = widget.property(property.toLatin1());
