@@ -277,7 +277,7 @@ const Verb kVerbs[] = {
     {"window key", 1, [](const Words& w) { Form_KeyUp(Number16(w[0]), 0); }},
     {"a second passes", 0, [](const Words&) { RecoveryTimer_Timer(); }},
     // As a row that was edited in place, which no check has seen.
-    {"block", 1, [](const Words& w) { ModCNC::ExecuteBlock(w[0]); }},
+    {"block", 1, [](const Words& w) { ModCNC::ExecuteBlock(Unquoted(w[0])); }},
     // The grid.
     {"click row", 2, [](const Words& w) { ClickRow(Number(w[0]) - 1, Number(w[1])); }},
     {"mark row", 1, [](const Words& w) { ClickRow(Number(w[0]) - 1, kMarkColumn); }},

@@ -182,8 +182,7 @@ QString Says(const QWidget& widget) {
       "windowTitle source text title plainText currentText accessibleName accessibleDescription "
       "toolTip openExternalLinks placeholderText selectedText cursorPosition checked default modal "
       "readOnly icon wordWrap textVisible minimum maximum value toolButtonStyle currentColor "
-      "margin "
-      "frameShape autoFillBackground";
+      "margin frameShape autoFillBackground";
   static const QStringList kProperties = QString(kNames).split(' ');
   for (const QString& property : kProperties) {
     const QVariant value = widget.property(property.toLatin1());
@@ -192,9 +191,9 @@ QString Says(const QWidget& widget) {
     // The height of a font decides which pixel it is.
     if (widget.objectName() == "lblMeasure") text.replace(QRegularExpression("[0-9.]+"), "1");
     // A page is told by its place, and a view paints its items itself.
-    const bool isPage = IsOneOf<QTextBrowser, QAbstractItemView>(widget) &&
-                        (property == "plainText" || property == "wordWrap");
-    if (text.isEmpty() || text == "0" || text == "false" || isPage) continue;
+    const bool isOther = IsOneOf<QTextBrowser, QAbstractItemView>(widget) &&
+                         (property == "plainText" || property == "wordWrap");
+    if (text.isEmpty() || text == "0" || text == "false" || isOther) continue;
     says += QString(" %1=").arg(property) + Quoted(text);
   }
   if (!widget.isEnabled()) says += " closed";

@@ -249,7 +249,7 @@ class WindowSessions : public testing::TestWithParam<std::string> {
   }
   static QByteArray Recovery(Words text) {
     return QByteArray::fromStdString(
-        frmMain::EncodeRecovery({"/gone/part.cnc", false, text.toStdString()}));
+        frmMain::EncodeRecovery({"/gone/part.cnc", false, Unquoted(text.toStdString())}));
   }
 
   void LetGoMonkey(int events) {
