@@ -30,7 +30,7 @@ const std::string kTexts[] = {"",
                               "back\\slash\\n and / and %20;#=[x]",
                               "two\r\nlines\tand a tab",
                               std::string("\x01"
-                                          "face\x1F"),
+                                          "face\x02\x03\x04\x05\x06\x08\x0B\x0C\x0E\x19\x1A\x1F"),
                               "@Invalid()",
                               "@ByteArray(x)"};
 
