@@ -1,10 +1,12 @@
 #include <QAbstractButton>
 #include <QApplication>
+#include <QBuffer>
 #include <QCloseEvent>
 #include <QDialog>
 #include <QFile>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPdfWriter>
 #include <QPrintDialog>
 #include <QRegularExpression>
 #include <QSpinBox>
@@ -21,6 +23,7 @@
 #include "mainwindow/fading_window.h"
 #include "mainwindow/frm_help.h"
 #include "mainwindow/frm_splash.h"
+#include "mainwindow/listing.h"
 #include "mainwindow/notifications.h"
 #include "mainwindow/print_listing.h"
 #include "mainwindow/program_start.h"
@@ -75,11 +78,13 @@ TEST(SmallWindowsTest, AClickOrAKeyTurnsTheFadeAroundWhereItStands) {
 
 TEST(SmallWindowsTest, AModalNotificationTakesTheWindowOverForItsOwnTime) {
   ModCNC::DecodeMWord("M03");
+  QTest::mouseClick(Up("frmInfo"), Qt::LeftButton);
   int time = 0;
   QTimer user;
   user.callOnTimeout([&] {
     FadingWindow* info = Fading("frmInfo");
     if (info == nullptr || info->Timer1.isActive() || time != 0) return;
+    EXPECT_FALSE(info->Timer2.isActive());
     EXPECT_TRUE(info->isModal() && !info->windowFlags().testFlag(Qt::WindowDoesNotAcceptFocus));
     EXPECT_EQ("Chuck OPEN", info->findChild<QWidget*>("lblInfo")->property("text").toString());
     time = EndTime(*info);
@@ -252,6 +257,17 @@ TEST(SmallWindowsTest, LongLinesGoOnAndOnlyThePagesAskedForAreMade) {
   EXPECT_EQ(2, pages.count("/Type /Page\n"));
   EXPECT_EQ(2, QByteArray::fromStdString(Drawn(pages)).count("page"));
   frmMain::ResetToProgramStart();
+}
+
+TEST(SmallWindowsTest, APrinterThatFailsBetweenTwoPagesIsTold) {
+  struct Jam : QPdfWriter {
+    using QPdfWriter::QPdfWriter;
+    bool newPage() override { return false; }
+  };
+  QBuffer pages;
+  pages.open(QIODevice::WriteOnly);
+  Jam printer(&pages);
+  EXPECT_FALSE(PrintListing({"A", {std::string(20'000, 'X'), {{}}}, {"Courier", 10}}, printer));
 }
 
 }  // namespace
